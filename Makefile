@@ -1,0 +1,82 @@
+# SPDX-License-Identifier: MIT
+# One word per chore. Each only wraps scripts/ and the CMake presets; `make help` lists them.
+
+PREFIX ?= /usr/local
+JOBS ?= $(shell nproc)
+EXAMPLE ?= examples/hello.G
+
+.PHONY: help setup setup-dev build demo check install uninstall package
+.PHONY: asan clang debug coverage bench fuzz stress gallery format lint clean
+
+help: ## this list
+	@sed -n 's/^\([a-z-]*\):.*## /\1\t/p' Makefile | expand -t 14
+
+setup: ## install the Debian packages that the build and the tests need
+	@scripts/setup
+
+setup-dev: ## also those that the developers' chores need
+	@scripts/setup --dev
+
+build: setup ## the programs, in build/release
+	cmake --preset release
+	cmake --build --preset release -j $(JOBS)
+
+demo: setup ## convert an example and show the result
+	@cmake --preset release > /dev/null
+	@cmake --build --preset release -j $(JOBS) --target pandrel
+	@scripts/demo build/release/src/pandrel $(EXAMPLE)
+
+check: build ## all tests: as built for use, then under the sanitizers
+	ctest --preset release
+	$(MAKE) --no-print-directory asan
+
+asan debug: setup ## build and test with the sanitizers / for the debugger
+	cmake --preset $@
+	cmake --build --preset $@ -j $(JOBS)
+	ctest --preset $@
+
+clang: setup-dev ## build and test with the second compiler
+	cmake --preset $@
+	cmake --build --preset $@ -j $(JOBS)
+	ctest --preset $@
+
+coverage: setup-dev ## run the tests with gcov; the report is build/coverage/report/index.html
+	cmake --preset $@
+	cmake --build --preset $@ -j $(JOBS)
+	cmake --build --preset $@ --target coverage
+
+bench: setup-dev ## measure start-up, throughput and growth
+	cmake --preset $@
+	cmake --build --preset $@ -j $(JOBS)
+	cmake --build --preset $@ --target bench
+
+fuzz: setup-dev ## a minute of fuzzing, all targets
+	cmake --preset $@
+	cmake --build --preset $@ -j $(JOBS)
+	tests/fuzz/run --build build/fuzz
+
+gallery: build ## take the pictures of docs/gallery.md anew
+	@scripts/gallery build/release
+
+stress: build ## the tests that take long
+	ctest --test-dir build/release -L stress --output-on-failure
+
+format: setup-dev ## reformat the C++ sources in place
+	git ls-files '*.cc' '*.h' | xargs clang-format-14 -i
+
+lint: setup-dev ## formatting, clang-tidy, manual pages, scripts' syntax
+	scripts/lint
+
+install: setup ## to PREFIX (default /usr/local), below DESTDIR if set
+	cmake --preset release
+	cmake --build --preset release -j $(JOBS) --target programs
+	cmake --install build/release --prefix $(PREFIX)
+
+uninstall: ## remove what `make install` put there
+	cmake --build build/release --target uninstall
+
+package: setup-dev ## the Debian packages, in build/packages
+	scripts/build-packages
+
+clean: ## forget all that was built
+	rm -rf build
