@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#include "osi/fatal.h"
+
+#include <unistd.h>
+
+#include <cstdlib>
+#include <new>
+
+static OsiExitHandler exit_handler = nullptr;
+
+void OsiExit(int status) {
+  if (exit_handler) {
+    exit_handler(status);
+    std::abort();  // a handler that returns would let a fatal condition carry on
+  }
+  std::exit(status);
+}
+
+OsiExitHandler OsiSetExitHandler(OsiExitHandler handler) {
+  OsiExitHandler previous = exit_handler;
+  exit_handler = handler;
+  return previous;
+}
+
+// Written past stdio, which may itself want memory for a buffer.
+static void ReportExhaustedMemory() {
+  static const char kMessage[] = "Error: Out of memory\n";
+  if (write(STDERR_FILENO, kMessage, sizeof kMessage - 1) < 0) OsiExit(-1);
+  OsiExit(-1);
+}
+
+void OsiEndOnExhaustedMemory() { std::set_new_handler(ReportExhaustedMemory); }

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#include "osi/processes.h"
+
+#include <signal.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <string>
+
+#include "osi/files.h"
+#include "osi/memory.h"
+#include "osi/strings.h"
+
+int OsiSystem(const char* command) { return std::system(command ? command : ""); }
+
+pid_t OsiProcExec(const char* path, const char* arguments) {
+  if (!path) path = "";
+  if (!OsiFileExists(path)) {
+    std::fprintf(stderr, "OsiProcExec: File %s not found\n", path);
+    return 0;
+  }
+  // Split before the fork: the child then has nothing left to do that could fail but execv.
+  constexpr int kMaxWords = 24;
+  char* copy = OsiStrdup(arguments ? arguments : "");
+  std::string program = path;
+  char* list[1 + kMaxWords + 1] = {program.data()};
+  char* rest = copy;
+  for (int i = 1; i <= kMaxWords; ++i) {
+    list[i] = strtok_r(rest, " ", &rest);
+    if (!list[i]) break;
+  }
+  pid_t child = fork();
+  if (child == 0) {
+    execv(path, list);
+    std::fprintf(stderr, "OsiProcExec: Failed to exec %s\n", path);
+    // Not exit(): what the parent had left in its output buffers would be written a second time.
+    _exit(127);
+  }
+  OsiFree(copy);
+  return child;
+}
+
+int OsiProcKill(pid_t pid, int signal) { return kill(pid, signal); }

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+// The standard string functions made forgiving: a null string counts as an empty one, so that the
+// converter compares and copies names without asking first whether they are there. New strings are
+// OsiMalloc memory, released with OsiFree by whoever cares to; nothing here keeps a pointer.
+//
+// Comparing without regard to case is in case.h, cutting white space in trim.h, numbers in
+// numbers.h, escaping in escapes.h.
+#ifndef PANDREL_OSI_STRINGS_H
+#define PANDREL_OSI_STRINGS_H
+
+#include <cstddef>
+#include <cstring>
+
+// strcmp, with a null string equal to an empty one. The converter's only string comparison; inline
+// because searches over attributes and resources spend their time here, often on shared texts.
+inline int OsiStrcmp(const char* a, const char* b) {
+  if (a == b) return 0;
+  return std::strcmp(a ? a : "", b ? b : "");
+}
+
+// strncmp, with a null string equal to an empty one.
+int OsiStrncmp(const char* a, const char* b, std::size_t n);
+
+// OsiStrcmp of the strings that two `const char* const` elements point at: the comparison function
+// for qsort over an array of strings.
+int OsiStrPcmp(const void* pa, const void* pb);
+
+// strlen; 0 for null.
+inline std::size_t OsiStrlen(const char* s) { return s ? std::strlen(s) : 0; }
+
+// A new copy of `s`; null for null.
+char* OsiStrdup(const char* s);
+
+// strcpy, strncpy, strcat and strncat: return `dst`, take a null `src` as empty, and do nothing but
+// return null when `dst` is null. The caller sees to the room in `dst`; as in the standard library,
+// OsiStrncpy fills up to `n` bytes with NUL and leaves a longer `src` unterminated.
+char* OsiStrcpy(char* dst, const char* src);
+char* OsiStrncpy(char* dst, const char* src, std::size_t n);
+char* OsiStrcat(char* dst, const char* src);
+char* OsiStrncat(char* dst, const char* src, std::size_t n);
+
+// strchr, strrchr and strstr: null when nothing is found or the string searched is null; a null
+// needle is an empty one, found at once. As with their C namesakes the result loses the const of
+// what was searched: write through it only when the string was writable.
+char* OsiStrchr(const char* s, int c);
+char* OsiStrrchr(const char* s, int c);
+char* OsiStrstr(const char* s, const char* needle);
+
+// Appends `a`, then `b` (either may be null), to the OsiMalloc string `s`, or to a new empty string
+// when `s` is null. Returns the grown block; `s` itself is gone. `a` and `b` may lie inside `s`.
+char* OsiStrAppend(char* s, const char* a, const char* b = nullptr);
+
+// Makes the OsiMalloc string `s` (null: a new one) hold a copy of `text`, the empty string when
+// `text` is null. Returns the block, which has moved if it had to grow. `text` may lie inside `s`.
+char* OsiStrReplace(char* s, const char* text);
+
+#endif

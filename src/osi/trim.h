@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+// Cutting white space (the standard library's class, in the current locale) off strings.
+//
+// note [the first character stays]
+// What cuts a string in place never removes its first character, so that a text does not become an
+// empty one: a string of blanks becomes one blank. Numbers cut off names follow the same rule.
+#ifndef PANDREL_OSI_TRIM_H
+#define PANDREL_OSI_TRIM_H
+
+// True for null, an empty string, or one of white space only.
+bool OsiIsEmptyString(const char* s);
+
+// A new copy (OsiMalloc memory) of `s` without leading and trailing white space; null for null.
+// Here a string of blanks becomes the empty string.
+char* OsiStrRemBeginEndSpaces(const char* s);
+
+// Cuts trailing white space off `s` in place, but for its first character. Null is left alone.
+void OsiRemoveEndBlanks(char* s);
+
+// Cuts trailing newline characters off `s` in place, but for its first character. Null is left
+// alone.
+void OsiRemoveEndNewlines(char* s);
+
+#endif
