@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+// The records that a GIL file becomes: objects with attributes and actions, all plain and linked by
+// pointers. The parser makes them, the conversion reads them through GetAttrValue. Records and
+// texts live in the arena until the conversion ends; texts are writable, and whoever holds the
+// pointer sees the change.
+//
+// Codes are token numbers (gil/tokens.h). A null pointer is the empty list. Name lists stand in
+// file order, all other lists in reverse file order.
+#ifndef PANDREL_GIL_OBJECT_H
+#define PANDREL_GIL_OBJECT_H
+
+#include <cstdint>
+
+enum ValueKind : int32_t { kTokenValue = 0, kStringValue = 1, kIntegerValue = 2 };
+
+struct Value {
+  Value* next;
+  int32_t kind;  // a ValueKind
+  int32_t ival;  // the token number or the integer; 0 for a string
+  char* sval;    // the string as the file has it, quotes and backslashes included; else null
+};
+
+struct Action;
+
+struct Attr {
+  Attr* next;
+  int32_t name;
+  union {
+    Value* value;
+    Action* actions;  // of a project's ACTIONS attribute only
+  };
+};
+
+struct Action {
+  Action* next;
+  Value* from;  // path of names
+  Value* when;
+  Value* to;            // path of names
+  Value* functionType;  // token, or the identifier of a predefined function
+  Value* argTypes;
+  Value* actionName;
+};
+
+struct Obj {
+  int32_t type;
+  Obj* allNext;  // every object of the file, as the parser delivered them
+  Obj* next;     // siblings; before resolveChildren the parser's list
+  Obj* children;
+  Attr* attrs;
+  Action* actions;
+  char* name;  // of the first NAME attribute, shared with it; null: none
+};
+
+// The constructors report exhausted memory through yyerror and end the run with status -1.
+Value* createValue(int32_t kind);
+Value* tokenValue(int32_t token);
+Value* intValue(int32_t number);
+
+// A string Value with a private copy of the first `length` bytes of `text`, which end at the first
+// NUL among them. `kind` tells the scanner's identifiers (3) from its strings (1) and is
+// deliberately ignored: behind the scanner both are the same.
+Value* stringValue(int32_t kind, const char* text, std::size_t length);
+
+Attr* makeAttr(int32_t name, Value* value);
+Action* makeAction(Value* from, Value* when, Value* to, Value* functionType, Value* argTypes,
+                   Value* actionName);
+Obj* makeObj(int32_t type, Attr* attrs, Action* actions);
+
+// Finds the object's first attribute of that name. 0 when there is none; else stores its value
+// (null for an empty list) in *valueOut, unlinks the attribute when `remove` is set, and returns 1.
+int GetAttrValue(Obj* obj, int32_t name, Value** valueOut, int remove);
+
+// The same for a scalar as text: a string's own text (shared), an integer's decimal text (new). A
+// token cannot be told as text: a line on standard error and 0, though the attribute is removed
+// when `remove` is set. An empty list is 0 as well.
+int GetAttrValueString(Obj* obj, int32_t name, char** textOut, int remove);
+
+// Hangs the objects of the parser's list (reverse file order) under the objects that their OWNER
+// attributes name and returns the top-level ones; that list and all children come out in file
+// order. An owner that no object has is reported on standard error and its object stays at top
+// level. An object that owns itself disappears from the top level.
+Obj* resolveChildren(Obj* objects);
+
+#endif

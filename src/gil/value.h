@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+// Reading values: the small questions that every converter asks. A null Value stands for a missing
+// element and a null text for the empty one.
+#ifndef PANDREL_GIL_VALUE_H
+#define PANDREL_GIL_VALUE_H
+
+#include "gil/object.h"
+
+// The value's text, shared and writable; never null.
+char* ValueText(const Value* value);
+
+// The value's token, `missing` for a null Value.
+int32_t ValueToken(const Value* value, int32_t missing);
+
+bool IsStringValue(const Value* value);
+
+// Whether the text is the empty string of GIL: two double quotes.
+bool IsEmptyGilString(const char* text);
+
+// Whether there is a text and it is not the empty string of GIL.
+bool HasGilText(const Value* value);
+
+// Steps to the next element; stays null at the end, since a parallel list may be the shorter one.
+void Step(Value** list);
+
+// The last element of a list; null for the empty one.
+const Value* LastValue(const Value* list);
+
+#endif

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#include "gil/value.h"
+
+#include <cstring>
+
+#include "gil/tokens.h"
+#include "unit/support/session_fixture.h"
+
+using ValueTest = SessionFixture;
+
+static Value* Str(const char* text) { return stringValue(1, text, std::strlen(text)); }
+
+TEST_F(ValueTest, TextIsShared) {
+  Value* value = Str("name");
+  EXPECT_EQ(ValueText(value), value->sval);
+}
+
+TEST_F(ValueTest, MissingTextIsEmpty) {
+  EXPECT_STREQ(ValueText(nullptr), "");
+  EXPECT_STREQ(ValueText(tokenValue(NIL)), "");
+  EXPECT_STREQ(ValueText(intValue(3)), "");
+}
+
+TEST_F(ValueTest, MissingTokenIsWhatTheCallerSays) {
+  EXPECT_EQ(ValueToken(nullptr, ACTIVE), ACTIVE);
+  EXPECT_EQ(ValueToken(tokenValue(INACTIVE), ACTIVE), INACTIVE);
+}
+
+TEST_F(ValueTest, OnlyStringsAreStringValues) {
+  EXPECT_TRUE(IsStringValue(Str("")));
+  EXPECT_FALSE(IsStringValue(tokenValue(NIL)));
+  EXPECT_FALSE(IsStringValue(intValue(0)));
+  EXPECT_FALSE(IsStringValue(nullptr));
+}
+
+TEST_F(ValueTest, EmptyStringIsTwoQuotes) {
+  EXPECT_TRUE(IsEmptyGilString("\"\""));
+  EXPECT_FALSE(IsEmptyGilString(""));
+  EXPECT_FALSE(IsEmptyGilString(nullptr));
+  EXPECT_FALSE(IsEmptyGilString("\" \""));
+}
+
+TEST_F(ValueTest, TextCountsUnlessItIsTwoQuotes) {
+  EXPECT_TRUE(HasGilText(Str("\"a\"")));
+  EXPECT_FALSE(HasGilText(Str("\"\"")));
+  EXPECT_FALSE(HasGilText(nullptr));
+}
+
+TEST_F(ValueTest, StepStaysAtTheEnd) {
+  Value* list = intValue(1);
+  list->next = intValue(2);
+  Step(&list);
+  EXPECT_EQ(list->ival, 2);
+  Step(&list);
+  EXPECT_EQ(list, nullptr);
+  Step(&list);
+  EXPECT_EQ(list, nullptr);
+}
+
+TEST_F(ValueTest, LastElementOfAList) {
+  Value* list = intValue(1);
+  EXPECT_EQ(LastValue(list), list);
+  list->next = intValue(2);
+  EXPECT_EQ(LastValue(list), list->next);
+  EXPECT_EQ(LastValue(nullptr), nullptr);
+}
