@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: MIT
+#include "widget/name_index.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <unordered_map>
+#include <vector>
+
+#include "osi/strings.h"
+#include "widget/links.h"
+#include "widget/tree.h"
+
+namespace {
+
+struct Index {
+  Widg* newest = nullptr;   // of all widgets
+  uint32_t made = 0;        // how many there are
+  uint32_t file_start = 0;  // how many there were when the current file began
+  uint32_t indexed = 0;     // how many of them are in the buckets
+  // Widgets by hash of their name; each bucket has the newest in front. A power of two.
+  std::vector<Widg*> buckets;
+  unsigned renamed = 0;
+  bool top_level_indexed = false;
+  // Top-level widgets by hash of their name, in their order. Some may have left the top level or
+  // have another name by now.
+  std::unordered_map<uint32_t, std::vector<Widg*>> top_level;
+};
+
+Index index_;
+
+// FNV-1a. Never 0, which marks a widget that is in no bucket.
+uint32_t HashOf(const char* name) {
+  uint32_t hash = 2166136261U;
+  for (; name && *name; ++name) hash = (hash ^ static_cast<unsigned char>(*name)) * 16777619U;
+  return hash | 1U;
+}
+
+Widg** BucketOf(uint32_t hash) {
+  // The lowest bit is always set.
+  return &index_.buckets[(hash >> 1) & (index_.buckets.size() - 1)];
+}
+
+// Puts the widget in its bucket, in front of those that were made before it.
+void Insert(Widg* widg) {
+  Widg** link = BucketOf(widg->place.hash);
+  while (*link && (*link)->place.made > widg->place.made) link = &(*link)->place.same_bucket;
+  widg->place.same_bucket = *link;
+  *link = widg;
+}
+
+// Brings the widgets that were made since the last search into the buckets.
+void CatchUp() {
+  if (index_.indexed == index_.made) return;
+  std::size_t size = std::max<std::size_t>(index_.buckets.size(), 1024);
+  while (size < index_.made) size *= 2;
+  if (size != index_.buckets.size()) {
+    index_.buckets.assign(size, nullptr);
+    index_.indexed = 0;
+  }
+  std::vector<Widg*> waiting;
+  waiting.reserve(index_.made - index_.indexed);
+  for (Widg* widg = index_.newest; widg && widg->place.made > index_.indexed;
+       widg = widg->place.made_before) {
+    waiting.push_back(widg);
+  }
+  for (auto widg = waiting.rbegin(); widg != waiting.rend(); ++widg) {
+    if ((*widg)->place.hash == 0) (*widg)->place.hash = HashOf((*widg)->gil_name);
+    Insert(*widg);
+  }
+  index_.indexed = index_.made;
+}
+
+void InsertTopLevel(Widg* widg) {
+  std::vector<Widg*>& widgs = index_.top_level[HashOf(widg->gil_name)];
+  // One that was here before stands at its former place.
+  if (widg->place.was_top_level) {
+    widgs.erase(std::remove(widgs.begin(), widgs.end(), widg), widgs.end());
+  }
+  widg->place.was_top_level = true;
+  const auto place = std::upper_bound(
+      widgs.begin(), widgs.end(), widg,
+      [](const Widg* a, const Widg* b) { return a->place.order < b->place.order; });
+  widgs.insert(place, widg);
+}
+
+void CatchUpTopLevel() {
+  if (index_.top_level_indexed) return;
+  index_.top_level_indexed = true;
+  for (Widg* widg = top_widget; widg; widg = widg->next) {
+    if (widg->place.parent == kTopLevel) InsertTopLevel(widg);
+  }
+}
+
+Widg* FirstNamed(Widg* widg, const char* name, uint32_t hash) {
+  while (widg && (widg->place.hash != hash || OsiStrcmp(widg->gil_name, name) != 0)) {
+    widg = widg->place.same_bucket;
+  }
+  return widg;
+}
+
+}  // namespace
+
+void NameIndexMade(Widg* widg) {
+  widg->place.made = ++index_.made;
+  widg->place.oldest = widg->place.made;
+  widg->place.file_start = index_.file_start;
+  widg->place.made_before = index_.newest;
+  index_.newest = widg;
+}
+
+void NameIndexForget(Widg* widg) {
+  if (widg->place.hash == 0) return;
+  Widg** link = BucketOf(widg->place.hash);
+  while (*link && *link != widg) link = &(*link)->place.same_bucket;
+  if (*link) *link = widg->place.same_bucket;
+  widg->place.same_bucket = nullptr;
+  widg->place.hash = 0;
+}
+
+void NameIndexRemember(Widg* widg) {
+  ++index_.renamed;
+  NameIndexTopLevel(widg);
+  if (widg->place.made > index_.indexed) return;  // comes with the next search
+  widg->place.hash = HashOf(widg->gil_name);
+  Insert(widg);
+}
+
+void NameIndexTopLevel(Widg* widg) {
+  if (index_.top_level_indexed && widg->place.parent == kTopLevel) InsertTopLevel(widg);
+}
+
+void NameIndexNewFile() { index_.file_start = index_.made; }
+
+Widg* NewestOfName(const char* name) {
+  CatchUp();
+  if (index_.buckets.empty()) return nullptr;
+  const uint32_t hash = HashOf(name);
+  return FirstNamed(*BucketOf(hash), name, hash);
+}
+
+Widg* OlderOfName(const Widg* widg) {
+  return FirstNamed(widg->place.same_bucket, widg->gil_name, widg->place.hash);
+}
+
+Widg* FirstTopLevelOfName(const char* name, bool with_child) {
+  CatchUpTopLevel();
+  const auto found = index_.top_level.find(HashOf(name));
+  if (found == index_.top_level.end()) return nullptr;
+  std::vector<Widg*>& widgs = found->second;
+  const auto HasLeft = [](const Widg* widg) { return widg->place.parent != kTopLevel; };
+  // Those in front that are gone would be passed over again and again.
+  const auto first = std::find_if_not(widgs.begin(), widgs.end(), HasLeft);
+  widgs.erase(widgs.begin(), first);
+  for (Widg* widg : widgs) {
+    if (!HasLeft(widg) && OsiStrcmp(widg->gil_name, name) == 0 && (widg->child || !with_child)) {
+      return widg;
+    }
+  }
+  return nullptr;
+}
+
+unsigned NameChanges() { return index_.renamed; }
+
+void ResetNameIndex() { index_ = Index(); }

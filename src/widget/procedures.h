@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+// The list of procedures that callbacks name: what the module declares, in order of first use.
+#ifndef PANDREL_WIDGET_PROCEDURES_H
+#define PANDREL_WIDGET_PROCEDURES_H
+
+#include <cstddef>
+
+// Appends the procedure unless an equal text is in the list. The text is shared, not copied.
+void InsertProcedure(char* procedure);
+
+// Whether an equal text is in the list.
+bool AlreadyInProcList(const char* procedure);
+
+// Stores the address of the first entry in *procedures (valid until the next insertion) and returns
+// how many there are.
+std::size_t GetProcedures(char*** procedures);
+
+// Empties the list.
+void ResetProcedures();
+
+#endif

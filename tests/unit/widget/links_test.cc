@@ -1,0 +1,241 @@
+// SPDX-License-Identifier: MIT
+#include "widget/links.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "unit/support/check_widg_tree.h"
+#include "unit/support/fatal_end.h"
+#include "unit/support/session_fixture.h"
+#include "unit/support/widgets.h"
+#include "widget/tree.h"
+
+namespace {
+
+using WidgLinks = SessionFixture;
+
+Widg* Leaf(const char* name) { return NewWidg("XmLabel", name); }
+
+TEST_F(WidgLinks, FirstChildOfAParentWithoutOne) {
+  Widg* parent = NewWidg("XmForm", "p");
+  AddChildWidg(parent, Leaf("a"));
+  EXPECT_EQ(NameTree(parent), "p(a)");
+}
+
+TEST_F(WidgLinks, ChildIsAppended) {
+  Widg* parent = NewWidg("XmForm", "p", {Leaf("a"), Leaf("b")});
+  AddChildWidg(parent, Leaf("c"));
+  EXPECT_EQ(NameTree(parent), "p(a b c)");
+  EXPECT_EQ(CheckWidgTree(parent), "");
+}
+
+TEST_F(WidgLinks, ChildBringsItsChainAlong) {
+  Widg* parent = NewWidg("XmForm", "p", {Leaf("a")});
+  AddChildWidg(parent, Siblings({Leaf("menu1"), Leaf("menu2"), Leaf("shell")}));
+  EXPECT_EQ(NameTree(parent), "p(a menu1 menu2 shell)");
+}
+
+TEST_F(WidgLinks, ChildThatEndsTheListAlreadyIsNotAppended) {
+  Widg* last = Leaf("b");
+  Widg* parent = NewWidg("XmForm", "p", {Leaf("a"), last});
+  AddChildWidg(parent, last);
+  EXPECT_EQ(NameTree(parent), "p(a b)");
+}
+
+TEST_F(WidgLinks, ChildWhoseChainEndsTheListDoesNotCloseACircle) {
+  Widg* first = Leaf("a");
+  Widg* parent = NewWidg("XmForm", "p", {first, Leaf("b")});
+  AddChildWidg(parent, first);
+  EXPECT_EQ(NameTree(parent), "p(a b)");
+}
+
+TEST_F(WidgLinks, ChildThatIsThereAlreadyIsNotAppendedLast) {
+  Widg* first = Leaf("a");
+  Widg* parent = NewWidg("XmForm", "p", {first, Leaf("b")});
+  AddChildLast(parent, first);
+  EXPECT_EQ(NameTree(parent), "p(a b)");
+}
+
+TEST_F(WidgLinks, NewChildIsAppendedLast) {
+  Widg* parent = NewWidg("XmForm", "p", {Leaf("a")});
+  AddChildLast(parent, Leaf("b"));
+  EXPECT_EQ(NameTree(parent), "p(a b)");
+}
+
+TEST_F(WidgLinks, RemovingTheHeadReturnsTheNext) {
+  Widg* a = Leaf("a");
+  Widg* head = Siblings({a, Leaf("b")});
+  EXPECT_EQ(Names(RemoveSibling(head, a)), "b");
+  EXPECT_EQ(a->next, nullptr);
+}
+
+TEST_F(WidgLinks, RemovingALaterSiblingKeepsTheHead) {
+  Widg* b = Leaf("b");
+  Widg* head = Siblings({Leaf("a"), b, Leaf("c")});
+  EXPECT_EQ(RemoveSibling(head, b), head);
+  EXPECT_EQ(Names(head), "a c");
+  EXPECT_EQ(b->next, nullptr);
+}
+
+TEST_F(WidgLinks, RemovingAnAbsentSiblingChangesNothing) {
+  Widg* head = Siblings({Leaf("a"), Leaf("b")});
+  Widg* stranger = Siblings({Leaf("x"), Leaf("y")});
+  EXPECT_EQ(RemoveSibling(head, stranger), head);
+  EXPECT_EQ(Names(head), "a b");
+  EXPECT_EQ(Names(stranger), "x y");
+  EXPECT_EQ(RemoveSibling(nullptr, stranger), nullptr);
+}
+
+TEST_F(WidgLinks, RemovingTheOnlyChildLeavesNone) {
+  Widg* a = Leaf("a");
+  Widg* parent = NewWidg("XmForm", "p", {a});
+  RemoveChild(parent, a);
+  EXPECT_EQ(parent->child, nullptr);
+}
+
+TEST_F(WidgLinks, RemovingWhatIsNoDirectChildChangesNothing) {
+  Widg* deep = Leaf("deep");
+  Widg* parent = NewWidg("XmForm", "p", {NewWidg("XmForm", "a", {deep, Leaf("b")})});
+  RemoveChild(parent, deep);
+  EXPECT_EQ(NameTree(parent), "p(a(deep b))");
+}
+
+TEST_F(WidgLinks, RemovingTheFirstTopLevelWidgetMakesTheSecondTheTree) {
+  Widg* a = Leaf("a");
+  Widg* b = Leaf("b");
+  EXPECT_EQ(RemoveWidg(Siblings({a, b}), a), b);
+  EXPECT_EQ(a->next, nullptr);
+}
+
+TEST_F(WidgLinks, RemovingTheOnlyTopLevelWidgetLeavesNothing) {
+  Widg* a = Leaf("a");
+  EXPECT_EQ(RemoveWidg(a, a), nullptr);
+}
+
+TEST_F(WidgLinks, RemovingAWidgetFromItsParentKeepsTheTree) {
+  Widg* deep = Leaf("deep");
+  Widg* tree = Siblings({NewWidg("XmForm", "a", {Leaf("x"), deep, Leaf("y")}), Leaf("b")});
+  EXPECT_EQ(RemoveWidg(tree, deep), tree);
+  EXPECT_EQ(NameTree(tree), "a(x y) b");
+  EXPECT_EQ(deep->next, nullptr);
+}
+
+TEST_F(WidgLinks, RemovingAnAbsentWidgetKeepsTheTree) {
+  Widg* tree = Siblings({NewWidg("XmForm", "a", {Leaf("x")}), Leaf("b")});
+  EXPECT_EQ(RemoveWidg(tree, Leaf("stranger")), tree);
+  EXPECT_EQ(NameTree(tree), "a(x) b");
+}
+
+TEST_F(WidgLinks, MovedWidgetLeavesItsChainBehind) {
+  Widg* menu = Leaf("menu");
+  Widg* from = NewWidg("XmForm", "from", {menu, Leaf("a")});
+  Widg* to = NewWidg("XmForm", "to", {Leaf("b")});
+  MoveWidgetInHierarchy(menu, from, to);
+  EXPECT_EQ(NameTree(from), "from(a)");
+  EXPECT_EQ(NameTree(to), "to(b menu)");
+}
+
+TEST_F(WidgLinks, MovingWithinOneParentMakesTheWidgetTheLast) {
+  Widg* menu = Leaf("menu");
+  Widg* parent = NewWidg("XmForm", "p", {menu, Leaf("a")});
+  MoveWidgetInHierarchy(menu, parent, parent);
+  EXPECT_EQ(NameTree(parent), "p(a menu)");
+}
+
+TEST_F(WidgLinks, SubHierarchyTakesTheFirstChildOut) {
+  Widg* child = With(Leaf("a"), {{"XmNwidth", "9"}, {"XmNx", "1"}, {"XmNy", "2"}});
+  Widg* parent = NewWidg("XmForm", "p", {child, Leaf("b")});
+  Widg* wrapper = NewWidg("XmFrame", "w");
+  MakeSubHier(parent, child, wrapper);
+  EXPECT_EQ(NameTree(parent), "p(b)");
+  EXPECT_EQ(NameTree(wrapper), "w(a)");
+  EXPECT_EQ(Resources(wrapper), "XmNx=1 XmNy=2");
+  EXPECT_EQ(Resources(child), "XmNwidth=9");
+}
+
+TEST_F(WidgLinks, SubHierarchyTakesALaterChildOut) {
+  Widg* child = With(Leaf("b"), {{"XmNx", "1"}});
+  Widg* parent = NewWidg("XmForm", "p", {Leaf("a"), child, Leaf("c")});
+  Widg* wrapper = NewWidg("XmFrame", "w");
+  MakeSubHier(parent, child, wrapper);
+  EXPECT_EQ(NameTree(parent), "p(a c)");
+  EXPECT_EQ(NameTree(wrapper), "w(b)");
+  EXPECT_EQ(Resources(wrapper), "XmNx=1");
+}
+
+TEST_F(WidgLinks, SubHierarchyReplacesTheChildrenOfTheNewParent) {
+  Widg* child = Leaf("b");
+  Widg* parent = NewWidg("XmForm", "p", {Leaf("a"), child});
+  Widg* wrapper = NewWidg("XmFrame", "w", {Leaf("former")});
+  MakeSubHier(parent, child, wrapper);
+  EXPECT_EQ(NameTree(wrapper), "w(b)");
+}
+
+TEST_F(WidgLinks, SubHierarchyOfAStrangerIsReported) {
+  Widg* stranger = With(Leaf("a"), {{"XmNx", "1"}});
+  Widg* parent = NewWidg("XmForm", "p", {Leaf("b")});
+  Widg* wrapper = NewWidg("XmFrame", "w", {Leaf("c")});
+  const Outcome outcome = Run([&] { MakeSubHier(parent, stranger, wrapper); });
+  EXPECT_EQ(outcome.status, std::nullopt);
+  EXPECT_EQ(outcome.err, "ERROR: MakeSubHier: parent and child are not\n");
+  EXPECT_EQ(outcome.out, "");
+  EXPECT_EQ(NameTree(parent), "p(b)");
+  EXPECT_EQ(NameTree(wrapper), "w(c)");
+  EXPECT_EQ(Resources(stranger), "XmNx=1");
+  EXPECT_EQ(Resources(wrapper), "");
+}
+
+TEST_F(WidgLinks, InsertedBoardAdoptsTheChildrenAndTheSize) {
+  Widg* shell = With(NewWidg("TopLevelShell", "shell", {Leaf("a"), Leaf("b")}),
+                     {{"XmNheight", "20"}, {"XmNwidth", "10"}, {"XmNx", "1"}});
+  InsertWidgBelow(shell, "XmBulletinBoard", Writable("bboard"));
+  EXPECT_EQ(NameTree(shell), "shell(bboard(a b))");
+  EXPECT_EQ(Resources(shell->child),
+            "XmNwidth=10 XmNheight=20 XmNmarginWidth=0 XmNmarginHeight=0 "
+            "XmNresizePolicy=XmRESIZE_GROW");
+  EXPECT_EQ(Resources(shell), "XmNheight=20 XmNwidth=10 XmNx=1");
+  EXPECT_EQ(CheckWidgTree(shell), "");
+}
+
+TEST_F(WidgLinks, InsertedBoardOfASizelessChildlessWidgetHasNeither) {
+  Widg* shell = NewWidg("TopLevelShell", "shell");
+  InsertWidgBelow(shell, "XmBulletinBoard", Writable("bboard"));
+  EXPECT_EQ(NameTree(shell), "shell(bboard)");
+  EXPECT_EQ(Resources(shell->child),
+            "XmNmarginWidth=0 XmNmarginHeight=0 XmNresizePolicy=XmRESIZE_GROW");
+}
+
+TEST_F(WidgLinks, InsertedWidgetOfAnotherClassGetsNoMargins) {
+  Widg* shell = With(NewWidg("TopLevelShell", "shell", {Leaf("a")}), {{"XmNwidth", "10"}});
+  InsertWidgBelow(shell, "XmForm", Writable("form"));
+  EXPECT_EQ(NameTree(shell), "shell(form(a))");
+  EXPECT_EQ(Resources(shell->child), "XmNwidth=10");
+}
+
+TEST_F(WidgLinks, NewListOfChildrenReplacesTheFormer) {
+  Widg* former = Leaf("a");
+  Widg* parent = NewWidg("XmForm", "p", {former});
+  SetChildren(parent, Siblings({Leaf("b"), Leaf("c")}));
+  EXPECT_EQ(NameTree(parent), "p(b c)");
+  SetChildren(parent, nullptr);
+  EXPECT_EQ(parent->child, nullptr);
+}
+
+TEST_F(WidgLinks, ClaimedChildBringsWhatStandsBehindIt) {
+  Widg* menu = Leaf("menu");
+  TopLevel({menu, Leaf("shell")});
+  Widg* button = NewWidg("XmCascadeButton", "button");
+  ClaimChild(button, menu);
+  EXPECT_EQ(NameTree(button), "button(menu shell)");
+  EXPECT_EQ(Names(top_widget), "menu shell");
+}
+
+TEST_F(WidgLinks, LastSiblingEndsTheList) {
+  Widg* last = Leaf("c");
+  EXPECT_EQ(LastSibling(Siblings({Leaf("a"), Leaf("b"), last})), last);
+  EXPECT_EQ(LastSibling(last), last);
+  EXPECT_EQ(LastSibling(nullptr), nullptr);
+}
+
+}  // namespace
