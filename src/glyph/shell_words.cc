@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include "glyph/shell_words.h"
+
+#include <algorithm>
+#include <cstring>
+
+// Characters that mean nothing to the shell wherever they stand.
+static bool IsPlain(char c) {
+  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
+         (c != '\0' && std::strchr("_-./+,:@%=", c));
+}
+
+// Inside single quotes only the quote itself is special: it is put outside of them, behind a
+// backslash.
+static std::string EscapeSingleQuotes(const std::string& text) {
+  std::string escaped;
+  for (char c : text) {
+    if (c == '\'') {
+      escaped += "'\\''";
+    } else {
+      escaped += c;
+    }
+  }
+  return escaped;
+}
+
+std::string ShellWord(const std::string& name) {
+  std::string operand = name;
+  if (!name.empty() && name[0] == '-') operand.insert(0, "./");
+  // An empty name stays nothing at all, as in the commands shown.
+  if (std::all_of(operand.begin(), operand.end(), IsPlain)) return operand;
+  return std::string("'").append(EscapeSingleQuotes(operand)).append("'");
+}
+
+std::string QuotedSedReplacement(const std::string& text) {
+  std::string replacement;
+  for (char c : text) {
+    if (c == '/' || c == '&' || c == '\\' || c == '\n') replacement += '\\';
+    replacement += c;
+  }
+  return EscapeSingleQuotes(replacement);
+}

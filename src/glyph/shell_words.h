@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+// Putting file names into shell commands as data: whatever a name holds, the shell passes on
+// exactly that name, as one operand. Plain names stand in the command as they are.
+#ifndef PANDREL_GLYPH_SHELL_WORDS_H
+#define PANDREL_GLYPH_SHELL_WORDS_H
+
+#include <string>
+
+// The name as one word of a shell command. A leading "-" gets "./" in front, so that no program
+// takes it for an option.
+std::string ShellWord(const std::string& name);
+
+// The text as the replacement of a sed substitution delimited by "/" that stands between single
+// quotes in a shell command.
+std::string QuotedSedReplacement(const std::string& text);
+
+#endif
