@@ -1,0 +1,185 @@
+// SPDX-License-Identifier: MIT
+#include "convert/actions.h"
+
+#include <cstdio>
+
+#include "convert/events.h"
+#include "driver/options/flags.h"
+#include "gil/object.h"
+#include "gil/tokens.h"
+#include "gil/value.h"
+#include "osi/strings.h"
+#include "uil/text/strings.h"
+#include "widget/callbacks.h"
+#include "widget/resources.h"
+#include "widget/search.h"
+#include "widget/tree.h"
+#include "widget/walk.h"
+
+char* FixInstanceNameForZO25(char* name) {
+  return usezo && zo25 ? ReplaceTrailingDigit(name) : name;
+}
+
+// What shows or hides a widget. The procedure texts are writable, as those of the file are.
+struct Visibility {
+  char* shell_procedure;
+  const char* setting;
+};
+
+static char manage_procedure[] = "ZoManageCB";
+static char unmanage_procedure[] = "ZoUnmanageCB";
+static char set_values_procedure[] = "ZoSetValuesCB";
+static char sensitive_procedure[] = "ZoSetSensitiveCB";
+static char insensitive_procedure[] = "ZoSetInsensitiveCB";
+
+static const Visibility kShow = {manage_procedure, ".mappedWhenManaged=True"};
+static const Visibility kHide = {unmanage_procedure, ".mappedWhenManaged=False"};
+
+// A dialog is shown and hidden by managing what is in it; for the builder's version 2.5 the name
+// goes into a widget list.
+static char* MakeDialogArgument(Widg* content) {
+  return zo25 ? MakeWidgList(FixInstanceNameForZO25(content->name))
+              : MakeQuotedString(content->name);
+}
+
+static Widg* FindWidgToSet(const char* target, const Visibility& visibility, char** procedure,
+                           char** argument) {
+  Widg* found = FindWidgWithChild(top_widget, target);
+  if (found && IsClass(found, "XmDialogShell")) {
+    *procedure = visibility.shell_procedure;
+    *argument = MakeDialogArgument(found->child);
+    return found->child;
+  }
+  if (!found) found = FindWidg(top_widget, target);
+  if (!found) return nullptr;
+  *procedure = set_values_procedure;
+  *argument =
+      MakeQuotedString(MergeStrings(FixInstanceNameForZO25(found->name), visibility.setting));
+  return found;
+}
+
+Widg* FindWidgToShow(const char* target, char** procedure, char** argument) {
+  return FindWidgToSet(target, kShow, procedure, argument);
+}
+
+Widg* FindWidgToHide(const char* target, char** procedure, char** argument) {
+  return FindWidgToSet(target, kHide, procedure, argument);
+}
+
+void FindAndFixUpWidgetName(const char* name) {
+  if (!zo25 || !usezo) return;
+  Widg* target = FindWidg(top_widget, name);
+  if (!target) {
+    std::fprintf(stderr, "Cannot find widget %s which is target of action\n", name);
+    return;
+  }
+  FixInstanceNameForZO25(target->name);
+}
+
+// Enable and Disable name their target by its GIL name.
+static char* MakeSensitivityArgument(const Value* to) {
+  FindAndFixUpWidgetName(ValueText(to));
+  return MakeWidgList(FixInstanceNameForZO25(ValueText(to)));
+}
+
+void AddCallbackForDefinedAction(Widg* widg, const Value* when, const Value* to,
+                                 const Value* action) {
+  if (!IsStringValue(when)) {
+    std::fputs("***ERROR: ProcessAction: WHEN is not StringConstant\n", stderr);
+    return;
+  }
+  if (!IsStringValue(action)) {
+    std::fputs("***ERROR: ProcessAction: action_name is not StringConstant\n", stderr);
+    return;
+  }
+  const char* name = ValueText(action);
+  const char* target = ValueText(to);
+  char* procedure = nullptr;
+  char* argument = nullptr;
+  if (OsiStrcmp(name, "Show") == 0) {
+    Widg* shown = FindWidgToShow(target, &procedure, &argument);
+    if (!shown) std::fprintf(stderr, "Cannot find child to show: %s\n", target);
+    if (shown && zo25) FixInstanceNameForZO25(shown->name);
+  } else if (OsiStrcmp(name, "Hide") == 0) {
+    Widg* hidden = FindWidgToHide(target, &procedure, &argument);
+    if (!hidden) std::fprintf(stderr, "Cannot find child to hide: %s\n", target);
+    if (hidden && zo25) FixInstanceNameForZO25(hidden->name);
+  } else if (OsiStrcmp(name, "Enable") == 0) {
+    procedure = sensitive_procedure;
+    argument = MakeSensitivityArgument(to);
+  } else if (OsiStrcmp(name, "Disable") == 0) {
+    procedure = insensitive_procedure;
+    argument = MakeSensitivityArgument(to);
+  } else {
+    std::fprintf(stderr, "ProcessAction: Unknown action_name %s\n", name);
+  }
+  // Asked for in every case: an event without a callback is noted even when the target is missing.
+  const char* callback_name = MapActionToCallback(widg, ValueText(when));
+  if (callback_name && procedure && argument) {
+    AddCallback(widg, callback_name, procedure, argument);
+  }
+}
+
+void AddCallbackForCallFunction(Widg* widg, const Value* when, const Value* action) {
+  if (!action) return;
+  const char* callback_name = MapActionToCallback(widg, ValueText(when));
+  if (callback_name) AddCallback(widg, callback_name, ValueText(action), "");
+}
+
+static bool IsPredefined(const Value* function_type) {
+  return (usezo || gen_zo_callbacks) && ValueToken(function_type, 0) == USER_DEFINED;
+}
+
+static bool IsCallFunction(const Value* function_type) {
+  if (IsStringValue(function_type)) {
+    return OsiStrcmp(ValueText(function_type), "CallFunction") == 0;
+  }
+  return function_type && function_type->kind == kIntegerValue &&
+         function_type->ival == CALL_FUNCTION;
+}
+
+void ProcessAction(Widg* widg, const Action* action) {
+  if (!action) return;
+  // These two go to standard output, unlike every other report on actions.
+  if (action->when && action->when->next) {
+    std::fputs("***ERROR: ProcessAction: more than one item in WHEN list. Ignoring others...\n",
+               stdout);
+  }
+  if (action->actionName && action->actionName->next) {
+    std::fputs("***ERROR: ProcessAction: more than one item in ACTION list. Ignoring others ...\n",
+               stdout);
+  }
+  if (IsPredefined(action->functionType)) {
+    const Value* to = LastValue(action->to);
+    if (to) AddCallbackForDefinedAction(widg, action->when, to, action->actionName);
+  } else if (IsCallFunction(action->functionType)) {
+    AddCallbackForCallFunction(widg, action->when, action->actionName);
+  }
+}
+
+Widg* LocateFromWidg(Widg* widg, const Action* action) {
+  const Value* from = LastValue(action->from);
+  if (!from) return widg;
+  const char* name = ValueText(from);
+  if (OsiStrcmp(name, widg->gil_name) == 0) return widg;
+  for (Widg* child = widg->child; child; child = child->next) {
+    if (OsiStrcmp(GetResourceValue(child, "XmNlabelString"), name) == 0 ||
+        OsiStrcmp(GetResourceValue(child, "XmNoriginalPixmapName"), name) == 0) {
+      return child;
+    }
+  }
+  return widg;
+}
+
+void ProcessActionsForWidg(Widg* widg) {
+  for (const Action* action = widg->actions; action; action = action->next) {
+    ProcessAction(LocateFromWidg(widg, action), action);
+  }
+}
+
+void ProcessActionsForWidgHierarchy(Widg* widg) {
+  WalkWidgets(
+      widg->child, {WalkStep::kChild, WalkStep::kSelf, WalkStep::kNext}, [](Widg*) { return true; },
+      ProcessActionsForWidg);
+  ProcessActionsForWidg(widg);
+}

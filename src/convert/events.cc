@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#include "convert/events.h"
+
+#include <cstdio>
+
+#include "driver/options/flags.h"
+#include "osi/strings.h"
+#include "widget/tree.h"
+
+enum Answer {
+  kCallback,           // the callback of the row
+  kBySelectionPolicy,  // a list's callback
+  kSilent,
+  kNoMapping,        // a note that names the event
+  kUseValueChanged,  // a note on toggle buttons
+  kUseItems,         // a note on menus
+};
+
+struct EventRow {
+  const char* event;
+  const char* class_name;  // null: any other
+  Answer answer;
+  const char* callback_name;
+};
+
+// In the order of the look-up. An event that is not listed has no callback, silently.
+static const EventRow kEvents[] = {
+    {"AnyEvent", nullptr, kNoMapping, nullptr},
+    {"Enter", nullptr, kNoMapping, nullptr},
+    {"Exit", nullptr, kNoMapping, nullptr},
+    {"Adjust", nullptr, kNoMapping, nullptr},
+    {"Menu", nullptr, kNoMapping, nullptr},
+    {"Notify", "XmPushButton", kCallback, "XmNactivateCallback"},
+    {"Notify", "XmToggleButton", kUseValueChanged, nullptr},
+    {"Notify", "XmText", kCallback, "XmNactivateCallback"},
+    {"Notify", "XmTextField", kCallback, "XmNactivateCallback"},
+    {"Notify", "XmScale", kCallback, "XmNvalueChangedCallback"},
+    {"Notify", "XmList", kBySelectionPolicy, nullptr},
+    {"Notify", "XmPulldownMenu", kUseItems, nullptr},
+    {"Notify", "XmPopupMenu", kUseItems, nullptr},
+    {"Notify", nullptr, kSilent, nullptr},
+    {"Resize", "XmDrawingArea", kCallback, "XmNresizeCallback"},
+    {"Resize", nullptr, kNoMapping, nullptr},
+    {"Select", "XmDrawingArea", kCallback, "XmNinputCallback"},
+    {"Select", nullptr, kNoMapping, nullptr},
+    {"Repaint", "XmDrawingArea", kCallback, "XmNexposeCallback"},
+    {"Repaint", nullptr, kSilent, nullptr},
+    {"KeyPress", "XmDrawingArea", kCallback, "XmNinputCallback"},
+    {"KeyPress", "XmText", kCallback, "XmNvalueChangedCallback"},
+    {"KeyPress", "XmTextField", kCallback, "XmNvalueChangedCallback"},
+    {"KeyPress", nullptr, kNoMapping, nullptr},
+    {"DoubleClick", nullptr, kNoMapping, nullptr},
+};
+
+// note [the policy is read under another name]
+// The resource asked for is spelt with a doubled syllable and so never set: every list answers to
+// "Notify" with its single-selection callback, whatever its policy. Programs rely on it.
+static const char* ListCallback(const Widg* list) {
+  const char* policy = GetResourceValue(list, "XmNselectionionPolicy");
+  const bool multiple =
+      OsiStrcmp(policy, "XmBROWSE_SELECT") == 0 || OsiStrcmp(policy, "XmMULTIPLE_SELECT") == 0;
+  return multiple ? "XmNmultipleSelectionCallback" : "XmNsingleSelectionCallback";
+}
+
+// Writes the note of an answer that has one.
+static void Note(Answer answer, const Widg* widg, const char* when) {
+  if (!verbose) return;
+  switch (answer) {
+    case kNoMapping:
+      std::fprintf(stderr, "Ignoring %s action on widget %s. No direct callback mapping.\n", when,
+                   widg->name);
+      break;
+    case kUseValueChanged:
+      std::fprintf(stderr,
+                   "No direct callback mapping for Notify action for toggle button %s. Try using "
+                   "a valueChangedCallback\n",
+                   widg->name);
+      break;
+    case kUseItems:
+      std::fprintf(stderr,
+                   "Ignoring Notify action on menu %s. Try activateCallback's on PushButton "
+                   "children instead\n",
+                   widg->name);
+      break;
+    default:
+      break;
+  }
+}
+
+static const EventRow* FindRow(const Widg* widg, const char* when) {
+  for (const EventRow& row : kEvents) {
+    if (OsiStrcmp(when, row.event) == 0 && (!row.class_name || IsClass(widg, row.class_name))) {
+      return &row;
+    }
+  }
+  return nullptr;
+}
+
+const char* MapActionToCallback(const Widg* widg, const char* when) {
+  const EventRow* row = FindRow(widg, when);
+  if (!row) return nullptr;
+  if (row->answer == kBySelectionPolicy) return ListCallback(widg);
+  Note(row->answer, widg, when);
+  return row->callback_name;
+}

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+// The label that an OPEN LOOK control carries and a Motif control has beside it.
+#ifndef PANDREL_CONVERT_OBJECT_LABEL_H
+#define PANDREL_CONVERT_OBJECT_LABEL_H
+
+struct Obj;
+struct Widg;
+
+// Gives the control its label, if the object has one that is not empty, and the width that is left.
+// With `useRowColumn` the label and the control move into a row-column, which is returned and
+// stands in the control's place; else the label becomes the control's next sibling and the control
+// is returned.
+Widg* SpecProcObjLabel(Obj* obj, Widg* widg, int useRowColumn);
+
+#endif

@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: MIT
+#include "convert/objects.h"
+
+#include <vector>
+
+#include "convert/attributes.h"
+#include "convert/controls.h"
+#include "convert/groups.h"
+#include "convert/lists.h"
+#include "convert/menus.h"
+#include "convert/object_label.h"
+#include "convert/settings.h"
+#include "convert/std_attributes.h"
+#include "convert/windows.h"
+#include "driver/options/flags.h"
+#include "gil/object.h"
+#include "gil/tokens.h"
+#include "gil/value.h"
+#include "layout/geometry.h"
+#include "uil/text/strings.h"
+#include "widget/links.h"
+#include "widget/resources.h"
+#include "widget/tree.h"
+
+struct ClassRow {
+  int32_t type;
+  const char* class_name;
+};
+
+// Types that are not listed, such as terminals and drop targets, have no widget.
+static const ClassRow kClasses[] = {
+    {BASE_WINDOW, "TopLevelShell"},
+    {BUTTON, "XmPushButton"},
+    {CANVAS_PANE, "XmDrawingArea"},
+    {CONTROL_AREA, "XmBulletinBoard"},
+    {MENU, "XmUnknownMenu"},  // until a user of the menu or the clean-up decides
+    {MESSAGE, "XmLabel"},
+    {POPUP_WINDOW, "XmDialogShell"},
+    {SETTING, "XmRowColumn"},
+    {SLIDER, "XmScale"},
+    {GAUGE, "XmScale"},
+    {TEXT_FIELD, "XmTextField"},
+    {TEXT_PANE, "XmScrolledText"},
+    {SCROLLING_LIST, "XmList"},
+    {GROUP, "XmBulletinBoard"},
+};
+
+const char* GilObjToMotifClassName(Obj* obj) {
+  Value* menu = nullptr;
+  if (obj->type == BUTTON && GetAttrValue(obj, MENU, &menu, 0) && IsStringValue(menu)) {
+    return "XmCascadeButton";
+  }
+  if (obj->type == GROUP && ignore_groups) return "";
+  for (const ClassRow& row : kClasses) {
+    if (row.type == obj->type) return row.class_name;
+  }
+  return "";
+}
+
+static Widg* SpecProcButton(Obj* obj, Widg* widg) {
+  Value* menu = nullptr;
+  if (!GetAttrValue(obj, MENU, &menu, 1) || !IsStringValue(menu)) return widg;
+  return MakeMenuButton(obj, widg, menu);
+}
+
+static Widg* SpecProcBoardOfGroup(Obj* obj, Widg* widg) {
+  AddResource(widg, "XmNmarginWidth", "0");
+  AddResource(widg, "XmNmarginHeight", "0");
+  return SpecProcGroup(obj, widg);
+}
+
+static Widg* SpecProcControlArea(Obj* /*obj*/, Widg* widg) {
+  SetTightBoard(widg);
+  return widg;
+}
+
+static Widg* SpecProcLabelledGauge(Obj* obj, Widg* widg) {
+  return SpecProcObjLabel(obj, SpecProcGauge(obj, widg), 0);
+}
+
+static Widg* SpecProcLabelledList(Obj* obj, Widg* widg) {
+  return SpecProcObjLabel(obj, SpecProcScrollingList(obj, widg), 0);
+}
+
+struct ExpansionRow {
+  int32_t type;
+  Widg* (*Expand)(Obj* obj, Widg* widg);
+};
+
+// Objects of other types are complete as they are.
+static const ExpansionRow kExpansions[] = {
+    {BASE_WINDOW, SpecProcBaseWindow},
+    {SLIDER, SpecProcSlider},
+    {TEXT_FIELD, SpecProcTextField},
+    {SETTING, SpecProcSetting},
+    {CANVAS_PANE, SpecProcCanvasPane},
+    {BUTTON, SpecProcButton},
+    {MENU, SpecProcMenu},
+    {GAUGE, SpecProcLabelledGauge},
+    {CONTROL_AREA, SpecProcControlArea},
+    {SCROLLING_LIST, SpecProcLabelledList},
+    {POPUP_WINDOW, SpecProcPopupWindow},
+    {GROUP, SpecProcBoardOfGroup},
+};
+
+Widg* SpecialProcessing(Obj* obj, Widg* widg, Widg* /*parent*/) {
+  Widg* result = widg;
+  for (const ExpansionRow& row : kExpansions) {
+    if (row.type == obj->type) result = row.Expand(obj, widg);
+  }
+  // A button's menu is pulled down, any other's pops up. A dropped group claims its menu all the
+  // same.
+  if (obj->type != BUTTON) AttachPopupMenu(obj, result ? result : widg);
+  return result;
+}
+
+// Makes the object's widget and converts its attributes.
+static Widg* BeginObj(Obj* obj) {
+  char* name = nullptr;
+  if (!GetAttrValueString(obj, NAME, &name, 1)) Error("Obj does not have a name");
+  Widg* widg = MakeWidg(GilObjToMotifClassName(obj), name);
+  widg->actions = obj->actions;
+  // Converters may consume attributes of the object meanwhile: the walk goes on from where it
+  // stands.
+  for (const Attr* attr = obj->attrs; attr; attr = attr->next) {
+    if (IsStdAttribute(attr)) {
+      ProcessStdAttributes(obj, widg, attr);
+    } else {
+      ProcessNonStdAttribute(obj, widg, attr);
+    }
+  }
+  return widg;
+}
+
+static Widg* EndObj(Obj* obj, Widg* widg, Widg* parent) {
+  if (reposition) FixUpGeometry(widg);
+  return SpecialProcessing(obj, widg, parent);
+}
+
+// Owners may nest as deeply as the file likes, so the objects that wait for their children are on a
+// stack of their own.
+Widg* ProcessObj(Obj* obj, Widg* parent) {
+  struct Frame {
+    Obj* obj;
+    Widg* widg;
+    Widg* parent;
+    Obj* next_child;
+  };
+  std::vector<Frame> open;
+  open.push_back({obj, BeginObj(obj), parent, obj->children});
+  for (;;) {
+    Frame& frame = open.back();
+    if (Obj* child = frame.next_child) {
+      frame.next_child = child->next;
+      Widg* child_parent = frame.widg;
+      open.push_back({child, BeginObj(child), child_parent, child->children});
+      continue;
+    }
+    const Frame done = frame;
+    open.pop_back();
+    Widg* result = EndObj(done.obj, done.widg, done.parent);
+    if (open.empty()) return result;
+    if (result) AddChildWidg(open.back().widg, result);
+  }
+}
