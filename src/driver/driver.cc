@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+#include "driver/driver.h"
+
+#include <unistd.h>
+
+#include "convert/actions.h"
+#include "convert/objects.h"
+#include "driver/options/flags.h"
+#include "gil/object.h"
+#include "gil/parser.h"
+#include "gil/scanner.h"
+#include "gil/tokens.h"
+#include "gil/value.h"
+#include "osi/fatal.h"
+#include "uil/text/strings.h"
+#include "widget/links.h"
+#include "widget/name_index.h"
+#include "widget/passes/clean_up.h"
+#include "widget/tree.h"
+
+std::FILE* OpenOutput() {
+  if (!outfile) return stdout;
+  std::FILE* output = std::fopen(outfile, "w");
+  if (!output) {
+    std::printf("Warning: Cannot open file %s for writing", outfile);
+    OsiExit(-1);
+  }
+  return output;
+}
+
+void CloseOutput(std::FILE* output) {
+  bool failed = std::ferror(output) != 0;
+  failed |= (output == stdout ? std::fflush(output) : std::fclose(output)) != 0;
+  if (failed) Error("Cannot write the output");
+}
+
+Obj* ParseGILFile() {
+  if (yyparse() != 0) Error("Parse error");
+  gilFile = resolveChildren(gilFile);
+  return gilFile;
+}
+
+Obj* PutMenusFirst(Obj* objects) {
+  Obj* menus = nullptr;
+  Obj* others = nullptr;
+  Obj** menus_end = &menus;
+  Obj** others_end = &others;
+  for (Obj* obj = objects; obj; obj = obj->next) {
+    Obj**& end = obj->type == MENU ? menus_end : others_end;
+    *end = obj;
+    end = &obj->next;
+  }
+  *menus_end = others;
+  *others_end = nullptr;
+  return menus ? menus : others;
+}
+
+Widg* ConvertObjHierToWidgHier(Obj* objects, Widg** listLink) {
+  Widg* last = nullptr;
+  for (Obj* obj = objects; obj; obj = obj->next) {
+    Widg* widg = ProcessObj(obj, nullptr);
+    if (obj->type == GROUP) continue;
+    LinkTopLevel(last && *listLink ? &last->next : listLink, widg);
+    last = widg;
+  }
+  return *listLink;
+}
+
+Widg* ProcessGILFile(Widg** listLink) {
+  Obj* objects = PutMenusFirst(ParseGILFile());
+  NameIndexNewFile();
+  *listLink = ConvertObjHierToWidgHier(objects, listLink);
+  RelinkTopLevel(listLink, CleanUpTopLevelHierarchy(listLink));
+  return *listLink;
+}
+
+// Where the next file's widgets go.
+static Widg** EndOfTopLevel() { return top_widget ? &LastSibling(top_widget)->next : &top_widget; }
+
+static void ProcessInterface(const char* name) {
+  if (access(name, R_OK) != 0) {
+    std::printf("Cannot open project file %s for reading\n", name);
+    return;
+  }
+  if (!std::freopen(name, "r", stdin)) {
+    std::printf("Error opening project file %s\n", name);
+    // The stream is closed now; what it yields must be nothing, not a fault.
+    if (!std::freopen("/dev/null", "r", stdin)) OsiExit(-1);
+  }
+  if (verbose) std::printf("Opening project subfile: %s\n", name);
+  yyrestart();
+  ProcessGILFile(EndOfTopLevel());
+}
+
+void ProcessProject() {
+  while (project) {
+    Value* interfaces = nullptr;
+    if (!GetAttrValue(project, INTERFACES, &interfaces, 0)) {
+      std::fputs("pandrel: Project without any interfaces\n", stdout);
+    }
+    // An interface that is a project itself sets it again, for a further pass.
+    project = nullptr;
+    for (const Value* name = interfaces; name; name = name->next) {
+      ProcessInterface(ValueText(name));
+    }
+  }
+}
+
+void ProcessActions() {
+  for (Widg* widg = top_widget; widg; widg = widg->next) ProcessActionsForWidgHierarchy(widg);
+}

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+// gildump: prints what the reader makes of a GIL file, on standard error.
+#include "driver/driver.h"
+#include "driver/standard_streams.h"
+#include "gil/dump.h"
+#include "gil/object.h"
+#include "gil/parser.h"
+#include "osi/fatal.h"
+
+int main() {
+  OsiEndOnExhaustedMemory();
+  HoldStandardStreams();
+  const Obj* objects = ParseGILFile();
+  generate(project ? project : objects);
+  OsiExit(0);
+}

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#include "driver/session.h"
+
+#include "convert/lists.h"
+#include "driver/options/flags.h"
+#include "gil/parser.h"
+#include "gil/scanner.h"
+#include "gil/version.h"
+#include "osi/arena.h"
+#include "uil/text/name_table.h"
+#include "uil/text/strings.h"
+#include "widget/procedures.h"
+#include "widget/tree.h"
+
+void ResetSession() {
+  ResetFlags();
+  ResetScanner();
+  ResetParser();
+  ResetVersion();
+  ResetTree();
+  ResetProcedures();
+  ResetNameTable();
+  ResetStrings();
+  ResetStringTable();
+  ArenaReset();  // last: the others still point at what it frees
+}

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#include "driver/standard_streams.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cstdio>
+
+#include "driver/options/flags.h"
+#include "osi/fatal.h"
+
+void HoldStandardStreams() {
+  for (int fd = STDIN_FILENO; fd <= STDERR_FILENO; ++fd) {
+    if (fcntl(fd, F_GETFD) != -1) continue;
+    // The wrong way round on purpose, so that using the stream fails as it would have.
+    const int mode = fd == STDIN_FILENO ? O_WRONLY : O_RDONLY;
+    if (open("/dev/null", mode) != fd) OsiExit(-1);
+  }
+}
+
+void TellIfInputIsTerminal() {
+  if (verbose && isatty(STDIN_FILENO)) {
+    std::fputs("pandrel: reading a GIL file from the terminal; pandrel -help lists the options\n",
+               stderr);
+  }
+}

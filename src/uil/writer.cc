@@ -1,0 +1,228 @@
+// SPDX-License-Identifier: MIT
+#include "uil/writer.h"
+
+#include <cstring>
+#include <string_view>
+#include <vector>
+
+#include "driver/options/flags.h"
+#include "osi/strings.h"
+#include "uil/text/name_table.h"
+#include "widget/procedures.h"
+#include "widget/tree.h"
+
+namespace {
+
+// The module is gathered in pieces of this size before it goes to the stream.
+constexpr std::size_t kPieceSize = 32 * 1024;
+
+std::FILE* output = nullptr;
+char piece[kPieceSize];
+std::size_t piece_length = 0;
+
+void Flush() {
+  std::fwrite(piece, 1, piece_length, output);
+  piece_length = 0;
+}
+
+void Put(std::string_view text) {
+  if (text.size() > kPieceSize - piece_length) {
+    Flush();
+    if (text.size() > kPieceSize) {
+      std::fwrite(text.data(), 1, text.size(), output);
+      return;
+    }
+  }
+  std::memcpy(piece + piece_length, text.data(), text.size());
+  piece_length += text.size();
+}
+
+void PutText(const char* text) {
+  if (text) Put(text);
+}
+
+// The start of a line: the object's comment mark, then tabs.
+void Begin(std::string_view prefix, std::size_t tabs) {
+  if (!prefix.empty()) Put(prefix);
+  Put(std::string_view("\t\t\t", tabs));
+}
+
+void PutLine(std::string_view prefix, std::size_t tabs, std::string_view text) {
+  Begin(prefix, tabs);
+  Put(text);
+  Put("\n");
+}
+
+bool IsShell(const Widg* widg) {
+  return IsClass(widg, "TopLevelShell") || IsClass(widg, "XmDialogShell");
+}
+
+bool IsWritten(const Widg* widg) { return OsiStrlen(widg->class_name) > 0; }
+
+// UIL has no shells: they stand in the module as comments, which the builder knows by its own mark.
+std::string_view ShellMark() { return usezo ? "!(ZO)" : "!"; }
+
+// Without the builder's mark the comments serve only the reader and may be left out.
+bool OmitShells() { return !usezo && nocomments; }
+
+void GenStdHeader() {
+  Put("module Pandrel\n"
+      "names = case_sensitive\n"
+      "\n");
+}
+
+void GenStdFooter() { Put("\nend module;"); }
+
+// UIL has one name space for procedures and objects, which the builder sorts out by itself.
+void FixProcedureName(char* name) {
+  if (usezo || NameLookup(InstanceNameTbl(), name) == kNoName) return;
+  std::fprintf(stderr, "Changing procedure named %s to ", name);
+  if (*name >= 'a' && *name <= 'z') *name = static_cast<char>(*name - 'a' + 'A');
+  std::fprintf(stderr, "%s to avoid name collision\n", name);
+}
+
+void GenProcedures() {
+  char** procedures = nullptr;
+  const std::size_t count = GetProcedures(&procedures);
+  for (std::size_t i = 0; i < count; ++i) {
+    FixProcedureName(procedures[i]);
+    Begin("", 0);
+    Put("procedure ");
+    PutText(procedures[i]);
+    Put(";\n");
+  }
+  Put("\n");
+}
+
+void GenControls(const Widg* widg, std::string_view prefix) {
+  PutLine(prefix, 1, "controls {");
+  for (const Widg* child = widg->child; child; child = child->next) {
+    if (!IsWritten(child)) continue;
+    const bool marked = prefix.empty() && IsShell(child);
+    if (marked && OmitShells()) continue;
+    Begin(prefix, 0);
+    if (marked) Put(ShellMark());
+    Put("\t\t");
+    if (!child->managed) Put("unmanaged ");
+    PutText(child->class_name);
+    Put(" ");
+    PutText(child->name);
+    Put(";\n");
+  }
+  PutLine(prefix, 2, "};");
+}
+
+void GenArguments(const Widg* widg, std::string_view prefix) {
+  PutLine(prefix, 1, "arguments {");
+  for (const Resource* resource = widg->resources; resource; resource = resource->next) {
+    // Carries the glyph's file name between the steps of the conversion; no resource of Motif's.
+    if (OsiStrcmp(resource->name, "XmNoriginalPixmapName") == 0) continue;
+    Begin(prefix, 2);
+    PutText(resource->name);
+    Put(" = ");
+    PutText(resource->value);
+    Put(";\n");
+  }
+  PutLine(prefix, 2, "};");
+}
+
+void PutCall(const Callback* callback) {
+  PutText(callback->procedure);
+  Put("(");
+  PutText(callback->argument);
+  Put(")");
+}
+
+// Several callbacks stand in one list under the name of the first, whatever their own: the builder
+// reads no second list.
+void GenProcedureList(const Callback* callbacks, std::string_view prefix) {
+  Begin(prefix, 2);
+  PutText(callbacks->callback_name);
+  Put(" = procedures {\n");
+  for (const Callback* callback = callbacks; callback; callback = callback->next) {
+    Begin(prefix, 3);
+    PutCall(callback);
+    Put(";\n");
+  }
+  PutLine(prefix, 3, "};");
+  PutLine(prefix, 0, "");
+  PutLine(prefix, 0, "};");
+}
+
+// Ends the object, too: where its closing brace stands depends on the callbacks.
+void GenCallbacks(const Widg* widg, std::string_view prefix) {
+  PutLine(prefix, 1, "callbacks {");
+  const Callback* callbacks = widg->callbacks;
+  if (!callbacks) {
+    PutLine(prefix, 2, "};");
+    Put("\n");
+    PutLine(prefix, 1, "};");
+    Put("\n");
+    return;
+  }
+  if (callbacks->next) {
+    GenProcedureList(callbacks, prefix);
+  } else {
+    Begin(prefix, 2);
+    PutText(callbacks->callback_name);
+    Put(" = procedure ");
+    PutCall(callbacks);
+    Put(";\n");
+    PutLine(prefix, 2, "};");
+  }
+  PutLine(prefix, 0, "};");
+  Put("\n");
+}
+
+void GenObject(const Widg* widg) {
+  if (IsShell(widg) && OmitShells()) return;
+  const std::string_view prefix = IsShell(widg) ? ShellMark() : "";
+  PutLine(prefix, 0, "object");
+  Begin(prefix, 0);
+  PutText(widg->name);
+  Put(":");
+  PutText(widg->class_name);
+  Put("{\n");
+  GenControls(widg, prefix);
+  GenArguments(widg, prefix);
+  GenCallbacks(widg, prefix);
+}
+
+// Writes the objects below the widget, then its own. A widget is written once, where it is met
+// first; one without a class hides all that is below it.
+void GenUILForWidg(Widg* widg) {
+  struct Frame {
+    Widg* widg;
+    Widg* next_child;
+  };
+  std::vector<Frame> open;
+  const auto Open = [&open](Widg* w) {
+    if (w->generated) return;
+    w->generated = 1;
+    if (IsWritten(w)) open.push_back({w, w->child});
+  };
+  Open(widg);
+  while (!open.empty()) {
+    Frame& frame = open.back();
+    if (Widg* child = frame.next_child) {
+      frame.next_child = child->next;
+      Open(child);
+      continue;
+    }
+    GenObject(frame.widg);
+    open.pop_back();
+  }
+}
+
+}  // namespace
+
+void GenUILForWidgHierarchy(Widg* top, std::FILE* stream) {
+  output = stream;
+  piece_length = 0;
+  GenStdHeader();
+  GenProcedures();
+  for (Widg* widg = top; widg; widg = widg->next) GenUILForWidg(widg);
+  GenStdFooter();
+  Put("\n\n");
+  Flush();
+}
