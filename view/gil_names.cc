@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#include "gil_names.h"
+
+#include <cctype>
+
+#include "uilfix/files.h"
+
+namespace view {
+namespace {
+
+constexpr std::size_t kCutLength = 30;
+
+bool IsBlank(char c) { return std::isspace(static_cast<unsigned char>(c)) != 0; }
+
+// The word or string at the start of `text`.
+std::string TakeValue(std::string_view text) {
+  while (!text.empty() && IsBlank(text[0])) text.remove_prefix(1);
+  std::size_t end = 0;
+  if (text.starts_with('"')) {
+    end = text.find('"', 1);
+    end = end == std::string_view::npos ? text.size() : end + 1;
+  } else {
+    while (end < text.size() && !IsBlank(text[end]) && text[end] != '(' && text[end] != ')') ++end;
+  }
+  return std::string(text.substr(0, end));
+}
+
+std::string WidgetForm(const std::string& gil_name) {
+  std::string name = gil_name.substr(0, kCutLength);
+  if (!name.empty()) name[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(name[0])));
+  return name;
+}
+
+}  // namespace
+
+std::vector<std::string> ReadGilNames(std::string_view gil) {
+  constexpr std::string_view kKeyword = ":name";
+  std::vector<std::string> names;
+  for (std::size_t pos = gil.find(kKeyword); pos != std::string_view::npos;
+       pos = gil.find(kKeyword, pos + 1)) {
+    const std::string_view after = gil.substr(pos + kKeyword.size());
+    if (after.empty() || !IsBlank(after[0])) continue;
+    std::string name = TakeValue(after);
+    if (!name.empty()) names.push_back(std::move(name));
+  }
+  return names;
+}
+
+std::vector<std::string> ReadGilNamesFromFile(const std::filesystem::path& file) {
+  const std::string text = uilfix::ReadFile(file.string()).value_or("");
+  std::vector<std::string> names = ReadGilNames(text);
+  std::error_code error;
+  for (const auto& entry : std::filesystem::directory_iterator(file.parent_path(), error)) {
+    const std::string other = entry.path().filename().string();
+    if (entry.path() == file || text.find(other) == std::string::npos) continue;
+    if (!entry.is_regular_file(error)) continue;
+    const auto more = ReadGilNames(uilfix::ReadFile(entry.path().string()).value_or(""));
+    names.insert(names.end(), more.begin(), more.end());
+  }
+  return names;
+}
+
+std::string GuessGilName(const std::vector<std::string>& gil_names, std::string_view widget) {
+  std::string best;
+  for (const std::string& name : gil_names) {
+    if (widget.starts_with(WidgetForm(name)) && name.size() > best.size()) best = name;
+  }
+  return best;
+}
+
+}  // namespace view

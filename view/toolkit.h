@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+// The connection to the X server and what the toolkit complains about.
+#ifndef PANDREL_VIEW_TOOLKIT_H
+#define PANDREL_VIEW_TOOLKIT_H
+
+#include <Xm/Xm.h>
+
+#include <chrono>
+#include <string>
+#include <vector>
+
+namespace view {
+
+struct Toolkit {
+  XtAppContext app = nullptr;
+  Display* display = nullptr;  // null when it could not be opened
+  std::string display_name;    // as asked for, for the message
+};
+
+// Starts the toolkit with its own options ("-display", ...) and opens the display. X errors and
+// toolkit warnings go to standard error from here on; X errors do not end the program.
+Toolkit StartToolkit(const std::vector<std::string>& toolkit_options);
+
+// How many X errors there were.
+int XErrorCount();
+
+// Handles events until none has come for `quiet`, at most for two seconds.
+void Settle(const Toolkit& toolkit,
+            std::chrono::milliseconds quiet = std::chrono::milliseconds(80));
+
+// The text of a resource of the program itself, such as "geometry" (set by -geometry); empty when
+// nobody set it.
+std::string ProgramResource(const Toolkit& toolkit, const std::string& name);
+
+}  // namespace view
+
+#endif

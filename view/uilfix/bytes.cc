@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+// Bytes that the compiler calls unprintable, in comments too: control characters, and the upper
+// half up to 0x9F.
+#include "uilfix/literals.h"
+#include "uilfix/rewrites.h"
+#include "uilfix/values.h"
+
+namespace uilfix {
+namespace {
+
+bool IsRefused(unsigned char byte) {
+  if (byte == '\t' || byte == '\n') return false;  // a line end is another rewrite's business
+  return byte < 0x20 || (byte >= 0x7F && byte < 0xA0);
+}
+
+std::string WriteBytes(std::string_view inside) {
+  std::string written;
+  for (const std::string& character : SplitCharacters(inside)) {
+    const auto byte = static_cast<unsigned char>(character[0]);
+    written += IsRefused(byte) ? NumericEscape(byte) : character;
+  }
+  return written;
+}
+
+}  // namespace
+
+void FixBytes(Module& module, Report& report) {
+  ForEachValue(module, [&](const ValuePlace& place) {
+    if (ChangeLiterals(place.value, WriteBytes)) {
+      report.Add(place.line, place.what + ": unprintable bytes written as numbers");
+    }
+  });
+}
+
+}  // namespace uilfix

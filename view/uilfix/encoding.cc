@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+// Texts in UTF-8. The compiler refuses the bytes 0x80 to 0x9F, and Motif's default fonts draw one
+// character per byte, so even a text that compiles shows as two letters for one. Latin-1 is what
+// both take.
+#include <cstdint>
+#include <optional>
+
+#include "uilfix/literals.h"
+#include "uilfix/rewrites.h"
+#include "uilfix/values.h"
+
+namespace uilfix {
+namespace {
+
+struct Substitute {
+  std::uint32_t code;
+  std::string_view text;
+};
+
+// Typographic characters outside Latin-1 and what typewriters had for them.
+constexpr Substitute kSubstitutes[] = {
+    {0x2010, "-"},    {0x2011, "-"},    {0x2012, "-"},   {0x2013, "-"},    {0x2014, "--"},
+    {0x2018, "'"},    {0x2019, "'"},    {0x201A, ","},   {0x201C, "\\\""}, {0x201D, "\\\""},
+    {0x201E, "\\\""}, {0x2022, "*"},    {0x2026, "..."}, {0x2039, "<"},    {0x203A, ">"},
+    {0x20AC, "EUR"},  {0x2122, "(TM)"}, {0x2190, "<-"},  {0x2192, "->"},   {0x0152, "OE"},
+    {0x0153, "oe"},   {0x0160, "S"},    {0x0161, "s"},   {0x0178, "Y"},    {0x017D, "Z"},
+    {0x017E, "z"},
+};
+
+// Takes one UTF-8 character of two to four bytes off `text`; nothing when there is none.
+std::optional<std::uint32_t> TakeCharacter(std::string_view& text) {
+  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+  const std::size_t length = byte(0) >= 0xF0 ? 4 : byte(0) >= 0xE0 ? 3 : byte(0) >= 0xC2 ? 2 : 0;
+  if (length == 0 || byte(0) > 0xF4 || text.size() < length) return std::nullopt;
+  std::uint32_t code = byte(0) & (0xFFu >> (length + 1));
+  for (std::size_t i = 1; i < length; ++i) {
+    if ((byte(i) & 0xC0) != 0x80) return std::nullopt;
+    code = code << 6 | (byte(i) & 0x3Fu);
+  }
+  text.remove_prefix(length);
+  return code;
+}
+
+std::string LatinText(std::uint32_t code) {
+  if (code >= 0xA0 && code <= 0xFF) return std::string(1, static_cast<char>(code));
+  for (const Substitute& row : kSubstitutes) {
+    if (row.code == code) return std::string(row.text);
+  }
+  return "?";
+}
+
+// `inside` in Latin-1; unchanged when it is plain ASCII or not UTF-8 throughout.
+std::string ToLatin(std::string_view inside) {
+  std::string latin;
+  for (std::string_view rest = inside; !rest.empty();) {
+    if (static_cast<unsigned char>(rest[0]) < 0x80) {
+      latin += rest[0];
+      rest.remove_prefix(1);
+      continue;
+    }
+    const auto code = TakeCharacter(rest);
+    if (!code) return std::string(inside);
+    latin += LatinText(*code);
+  }
+  return latin;
+}
+
+}  // namespace
+
+void FixEncoding(Module& module, Report& report) {
+  ForEachValue(module, [&](const ValuePlace& place) {
+    if (ChangeLiterals(place.value, ToLatin)) {
+      report.Add(place.line, place.what + ": UTF-8 written as Latin-1");
+    }
+  });
+}
+
+}  // namespace uilfix

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+// A label is a compound string, where a line end is a separator and not a character: the compiler
+// makes one segment of a plain string, and \n in it draws as a blot.
+#include "uilfix/literals.h"
+#include "uilfix/rewrites.h"
+
+namespace uilfix {
+namespace {
+
+// The lines of a literal's inside, cut at each \n escape.
+std::vector<std::string> SplitLines(std::string_view inside) {
+  std::vector<std::string> lines(1);
+  for (const std::string& character : SplitCharacters(inside)) {
+    if (character == "\\n") {
+      lines.emplace_back();
+    } else {
+      lines.back() += character;
+    }
+  }
+  return lines;
+}
+
+// The expression for a label of these lines.
+std::string CompoundString(const std::vector<std::string>& lines) {
+  std::string value;
+  for (std::size_t i = 0; i + 1 < lines.size(); ++i) {
+    value += "compound_string(\"" + lines[i] + "\", separate=true) & ";
+  }
+  return value + '"' + lines.back() + '"';
+}
+
+void MendLabel(Argument& argument, const Object& object, Report& report) {
+  std::string inside;
+  if (!PlainString(argument.value, &inside)) return;
+  const std::vector<std::string> lines = SplitLines(inside);
+  if (lines.size() < 2) return;
+  argument.value = CompoundString(lines);
+  report.Add(argument.line, argument.resource + " of " + object.name + ": " +
+                                std::to_string(lines.size()) + " lines in a compound string");
+}
+
+// The items of a list are compound strings as well. An item that is an expression already is left.
+void MendItems(Argument& argument, const Object& object, Report& report) {
+  if (!argument.value.starts_with("string_table(")) return;
+  std::vector<ValuePart> parts = SplitValue(argument.value);
+  bool changed = false;
+  for (std::size_t i = 1; i + 1 < parts.size(); ++i) {
+    if (!parts[i].literal) continue;
+    const std::string& before = parts[i - 1].text;
+    const std::string& after = parts[i + 1].text;
+    if (!before.ends_with("(") && before.find(',') == std::string::npos) continue;
+    if (before.find('&') != std::string::npos || after.find('&') != std::string::npos) continue;
+    if (before.ends_with("compound_string(")) continue;
+    const auto lines =
+        SplitLines(std::string_view(parts[i].text).substr(1, parts[i].text.size() - 2));
+    if (lines.size() < 2) continue;
+    parts[i].text = CompoundString(lines);
+    changed = true;
+  }
+  if (!changed) return;
+  argument.value = JoinValue(parts);
+  report.Add(argument.line, argument.resource + " of " + object.name +
+                                ": items of several lines in compound strings");
+}
+
+}  // namespace
+
+void FixLabels(Module& module, Report& report) {
+  ForEachObject(module, [&](Object& object) {
+    if (object.IsComment()) return;
+    ForEachEntry<Argument>(object, [&](Argument& argument) {
+      if (argument.resource == "XmNlabelString") MendLabel(argument, object, report);
+      if (argument.resource == "XmNitems") MendItems(argument, object, report);
+    });
+  });
+}
+
+}  // namespace uilfix

@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: MIT
+// A UIL module as its writer laid it out, in records that give the same bytes back. The rewrites of
+// pandrel-uilfix and the shell reader of pandrel-view work on these records and never on text.
+//
+// Only the exact layout that pandrel writes is taken apart; any other text (a hand-made value
+// section, a message printed in front of the module) is kept whole as Verbatim, so reading and
+// rendering is the identity for every input.
+#ifndef PANDREL_UILFIX_MODULE_H
+#define PANDREL_UILFIX_MODULE_H
+
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+namespace uilfix {
+
+// Text that no rewrite looks into, line end included.
+struct Verbatim {
+  std::string text;
+};
+
+// One line of a "controls" list: "<lead>[unmanaged ]Class name;".
+struct Control {
+  std::string lead;  // comment prefix and tabs
+  bool unmanaged = false;
+  std::string class_name;
+  std::string name;
+  int line = 0;  // in the module as read, counted from 1
+};
+
+// One entry of an "arguments" list: "<lead>XmNresource = value;". The value may run over several
+// lines, with a line feed inside a string literal or between the parts of an expression.
+struct Argument {
+  std::string lead;
+  std::string resource;
+  std::string value;  // without the semicolon
+  int line = 0;
+};
+
+// One procedure call of a callback: "procedure(argument)".
+struct Call {
+  std::string procedure;
+  std::string argument;  // as it stands between the parentheses; empty for none
+  int line = 0;
+};
+
+// One entry of a "callbacks" list: "<lead>XmNreason = procedure p(a);", or, with `list` set,
+// "<lead>XmNreason = procedures {" with each call on its own line.
+struct Callback {
+  std::string lead;
+  std::string reason;
+  bool list = false;
+  std::vector<Call> calls;
+  std::string call_lead;   // list form: what stands before each call
+  std::string close_lead;  // list form: what stands before the closing "};"
+  int line = 0;
+};
+
+using Entry = std::variant<Verbatim, Control, Argument, Callback>;
+
+// "procedure name;" on a line of its own.
+struct Declaration {
+  std::string name;
+  int line = 0;
+};
+
+// "<prefix>object", "<prefix>name:Class{" and everything up to the next object or "end module".
+// The section heads and closing braces stand among the entries as Verbatim.
+struct Object {
+  std::string prefix;  // "", or "!" / "!(ZO)" for a shell that stands only in comments
+  std::string name;
+  std::string class_name;
+  std::vector<Entry> entries;
+  int line = 0;  // of the line that holds the name
+
+  // A commented object: the compiler never sees it.
+  bool IsComment() const { return !prefix.empty(); }
+};
+
+using Item = std::variant<Verbatim, Declaration, Object>;
+
+struct Module {
+  std::vector<Item> items;
+};
+
+// Takes a module apart. Never fails.
+Module ParseModule(std::string_view text);
+
+// The module as text. RenderModule(ParseModule(text)) equals text.
+std::string RenderModule(const Module& module);
+
+// One entry as text, line end included.
+std::string RenderEntry(const Entry& entry);
+
+// Calls `visit(Object&)` for each object of the module in order.
+template <typename M, typename Visit>
+void ForEachObject(M& module, Visit visit) {
+  for (auto& item : module.items) {
+    if (auto* object = std::get_if<Object>(&item)) visit(*object);
+  }
+}
+
+// Calls `visit(T&)` for each entry of kind T (Control, Argument, Callback) of the object.
+template <typename T, typename O, typename Visit>
+void ForEachEntry(O& object, Visit visit) {
+  for (auto& entry : object.entries) {
+    if (auto* found = std::get_if<T>(&entry)) visit(*found);
+  }
+}
+
+// Whether the value of this resource is the name of a widget.
+bool IsWidgetReference(std::string_view resource);
+
+// The value of the object's argument `resource`, or null when it has none.
+const std::string* FindArgument(const Object& object, std::string_view resource);
+
+// Adds an argument behind the object's others. Returns false, and does nothing, when the list of
+// arguments cannot be found.
+bool AddArgument(Object& object, const std::string& resource, const std::string& value);
+
+}  // namespace uilfix
+
+#endif

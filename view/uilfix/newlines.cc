@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+// A string ends at the end of its line for the compiler, and the second line of a commented title
+// is no comment any more. A GIL string may hold line ends.
+#include "uilfix/literals.h"
+#include "uilfix/rewrites.h"
+#include "uilfix/values.h"
+
+namespace uilfix {
+namespace {
+
+std::string EscapeNewlines(std::string_view inside) {
+  std::string escaped;
+  for (std::size_t i = 0; i < inside.size(); ++i) {
+    // A backslash before the line end was the editor's way of carrying a string on.
+    if (inside.substr(i, 2) == "\\\n") {
+      ++i;
+    } else if (inside[i] == '\n') {
+      escaped += "\\n";
+    } else if (inside[i] == '\\' && i + 1 < inside.size()) {
+      escaped += inside.substr(i++, 2);
+    } else {
+      escaped += inside[i];
+    }
+  }
+  return escaped;
+}
+
+}  // namespace
+
+void FixNewlines(Module& module, Report& report) {
+  ForEachValue(module, [&](const ValuePlace& place) {
+    if (ChangeLiterals(place.value, EscapeNewlines)) {
+      report.Add(place.line, place.what + ": line ends written as \\n");
+    }
+  });
+}
+
+}  // namespace uilfix
