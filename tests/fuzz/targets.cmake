@@ -1,0 +1,26 @@
+# SPDX-License-Identifier: MIT
+# The fuzz targets. Each is built for libFuzzer with PANDREL_FUZZ, and with a plain main that replays
+# files for the tests of every build.
+set(fuzz_targets names strings reader convert)
+set(fuzz_dir ${CMAKE_CURRENT_LIST_DIR})
+
+# Not under test here (mutator_tests is for that), so neither instrumented nor watched: half of a
+# fuzzer's time would go there.
+add_library(gil_mutator STATIC ${fuzz_dir}/gil_mutator.cc ${fuzz_dir}/gil_outline.cc)
+target_include_directories(gil_mutator PRIVATE ${CMAKE_SOURCE_DIR}/src)
+target_compile_options(gil_mutator PRIVATE -O2)
+
+# An executable of the target's own file, `main` (a source, or nothing for libFuzzer's) and what it needs.
+function(add_fuzz_executable name target main)
+  add_executable(${name} ${fuzz_dir}/fuzz_${target}.cc ${main})
+  target_link_libraries(${name} PRIVATE pandrel_core)
+  if(target MATCHES "^(reader|convert)$")
+    target_sources(${name} PRIVATE ${fuzz_dir}/confinement.cc ${fuzz_dir}/session.cc
+      ${fuzz_dir}/shell_grammar.cc)
+    # In front of the core, whose tables the mutator uses.
+    target_link_libraries(${name} PRIVATE gil_mutator pandrel_core)
+    foreach(function IN ITEMS access stat fopen freopen system)
+      target_link_options(${name} PRIVATE LINKER:--wrap=${function})
+    endforeach()
+  endif()
+endfunction()
