@@ -1,0 +1,82 @@
+# SPDX-License-Identifier: MIT
+#[[
+pandrel_add_interface(<target> <file.G or file.P>
+  [INTERFACES file.G...]    the interface files that a project names
+  [GLYPHS file.icon...]     the icon files that the interface names
+  [BASE directory]          where all these names start; by default the current source directory
+  [FLAGS option...]         options of pandrel; -quiet is always given
+  [UIL_FLAGS option...]     options of uil
+  [NO_UID]                  write the module, do not compile it
+  [ALL])                    build with everything else
+
+Adds a target that converts the file and compiles the module. Results, in the current binary directory:
+<stem>.uil, <stem>.uid, and an .xbm file for each glyph. Their full names stand in the target's properties
+PANDREL_UIL and PANDREL_UID.
+
+Inputs are copied to the binary directory under the names they have relative to BASE, and the conversion runs there: pandrel looks for the files of a project and for glyphs from
+where it runs, and writes bitmaps beside them, which must not happen among the sources.
+]]
+function(pandrel_add_interface target input)
+  cmake_parse_arguments(PARSE_ARGV 2 arg "NO_UID;ALL" "BASE" "INTERFACES;GLYPHS;FLAGS;UIL_FLAGS")
+  if(arg_UNPARSED_ARGUMENTS)
+    message(FATAL_ERROR "pandrel_add_interface: what is ${arg_UNPARSED_ARGUMENTS}?")
+  endif()
+
+  if(NOT arg_BASE)
+    set(arg_BASE "${CMAKE_CURRENT_SOURCE_DIR}")
+  endif()
+  cmake_path(ABSOLUTE_PATH arg_BASE BASE_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}" NORMALIZE)
+
+  set(copies)
+  foreach(file IN LISTS input arg_INTERFACES arg_GLYPHS)
+    set(source "${file}")
+    cmake_path(ABSOLUTE_PATH source BASE_DIRECTORY "${arg_BASE}" NORMALIZE)
+    cmake_path(RELATIVE_PATH source BASE_DIRECTORY "${arg_BASE}" OUTPUT_VARIABLE name)
+    if(name MATCHES "^\\.\\./")
+      message(FATAL_ERROR "pandrel_add_interface: ${file} is not below ${arg_BASE}; give BASE")
+    endif()
+    set(copy "${CMAKE_CURRENT_BINARY_DIR}/${name}")
+    # An in-source build has its inputs in place.
+    if(NOT copy STREQUAL source)
+      add_custom_command(OUTPUT "${copy}"
+        COMMAND ${CMAKE_COMMAND} -E copy "${source}" "${copy}"
+        DEPENDS "${source}" VERBATIM)
+    endif()
+    list(APPEND copies "${copy}")
+  endforeach()
+  list(GET copies 0 copied_input)
+  cmake_path(GET copied_input PARENT_PATH directory)
+  cmake_path(GET copied_input STEM LAST_ONLY stem)
+
+  set(uil "${CMAKE_CURRENT_BINARY_DIR}/${stem}.uil")
+  set(uid "${CMAKE_CURRENT_BINARY_DIR}/${stem}.uid")
+  # The module gets its name only when it is whole: pandrel empties its output before it reads.
+  add_custom_command(OUTPUT "${uil}"
+    COMMAND Pandrel::pandrel -quiet ${arg_FLAGS} "${uil}.part" < "${copied_input}"
+    COMMAND ${CMAKE_COMMAND} -E rename "${uil}.part" "${uil}"
+    DEPENDS ${copies} Pandrel::pandrel
+    WORKING_DIRECTORY "${directory}"
+    COMMENT "Converting ${input}" VERBATIM)
+  set(results "${uil}")
+
+  if(NOT arg_NO_UID)
+    if(NOT PANDREL_UIL_EXECUTABLE)
+      message(FATAL_ERROR "pandrel_add_interface: the UIL compiler (uil) is not found; give NO_UID to do without")
+    endif()
+    add_custom_command(OUTPUT "${uid}"
+      COMMAND "${PANDREL_UIL_EXECUTABLE}" ${arg_UIL_FLAGS} -o "${uid}" "${uil}"
+      DEPENDS "${uil}"
+      COMMENT "Compiling ${stem}.uil" VERBATIM)
+    list(APPEND results "${uid}")
+  endif()
+
+  if(arg_ALL)
+    add_custom_target(${target} ALL DEPENDS ${results})
+  else()
+    add_custom_target(${target} DEPENDS ${results})
+  endif()
+  set_target_properties(${target} PROPERTIES PANDREL_UIL "${uil}")
+  if(NOT arg_NO_UID)
+    set_target_properties(${target} PROPERTIES PANDREL_UID "${uid}")
+  endif()
+endfunction()
