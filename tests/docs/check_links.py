@@ -1,0 +1,35 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Every relative link in the documents leads to a file, and to a heading where it names one."""
+import pathlib
+import re
+import sys
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+
+
+def anchors(page):
+    text = re.sub(r"```.*?```", "", page.read_text(), flags=re.S)
+    return {re.sub(r"[^\w -]", "", title.lower()).strip().replace(" ", "-")
+            for title in re.findall(r"^#+ (.*)$", text, re.M)}
+
+
+def main():
+    broken = links = 0
+    pages = [*ROOT.glob("*.md"), *(ROOT / "docs").rglob("*.md"), *(ROOT / "integration").rglob("*.md")]
+    for page in sorted(pages):
+        for target in re.findall(r"\]\(([^)\s]+)\)", page.read_text()):
+            if re.match(r"[a-z]+:", target):
+                continue
+            links += 1
+            path, _, anchor = target.partition("#")
+            file = (page.parent / path).resolve() if path else page
+            if not file.exists() or (anchor and anchor not in anchors(file)):
+                broken += 1
+                print(f"{page.relative_to(ROOT)}: {target}")
+    print(f"{links} links in {len(pages)} pages, {broken} broken")
+    sys.exit(1 if broken else 0)
+
+
+if __name__ == "__main__":
+    main()
