@@ -116,6 +116,7 @@ Widg* SpecialProcessing(Obj* obj, Widg* widg, Widg* /*parent*/) {
 
 // Makes the object's widget and converts its attributes.
 static Widg* BeginObj(Obj* obj) {
+  FetchAhead(obj->children ? obj->children : obj->next);
   char* name = nullptr;
   if (!GetAttrValueString(obj, NAME, &name, 1)) Error("Obj does not have a name");
   Widg* widg = MakeWidg(GilObjToMotifClassName(obj), name);

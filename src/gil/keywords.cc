@@ -97,7 +97,9 @@ static constexpr std::array<uint8_t, kSlots> BuildSlots() {
   static_assert(std::size(keywords) <= 256);
   std::array<uint8_t, kSlots> slots{};
   for (std::size_t row = 0; keywords[row].text; ++row) {
-    std::size_t slot = HashOf(keywords[row].text);
+    const std::string_view text = keywords[row].text;
+    if (text.size() > kLongestKeyword) throw "a keyword is longer than announced";
+    std::size_t slot = HashOf(text);
     while (slots[slot] != 0) slot = (slot + 1) % kSlots;
     slots[slot] = static_cast<uint8_t>(row + 1);
   }
@@ -106,14 +108,17 @@ static constexpr std::array<uint8_t, kSlots> BuildSlots() {
 
 static constexpr std::array<uint8_t, kSlots> kSlotTable = BuildSlots();
 
-int32_t FindKeyword(const char* text, std::size_t length) {
-  if (length == 0) return 0;
-  const std::string_view wanted(text, length);
-  for (std::size_t slot = HashOf(wanted); kSlotTable[slot] != 0; slot = (slot + 1) % kSlots) {
-    const Keyword& keyword = keywords[kSlotTable[slot] - 1];
-    if (wanted == keyword.text) return keyword.token;
+const Keyword* FindKeyword(const char* text, std::size_t length) {
+  if (length == 0) return nullptr;
+  for (std::size_t slot = HashOf({text, length}); kSlotTable[slot] != 0;
+       slot = (slot + 1) % kSlots) {
+    const Keyword& keyword = keywords[kSlotTable[slot] - 1U];
+    if (static_cast<std::size_t>(keyword.length) == length &&
+        std::memcmp(text, keyword.text, length) == 0) {
+      return &keyword;
+    }
   }
-  return 0;
+  return nullptr;
 }
 
 const char* KeywordText(int32_t token) {

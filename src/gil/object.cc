@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "gil/object.h"
 
+#include <array>
 #include <cstdio>
 #include <cstring>
 
@@ -29,8 +30,20 @@ Value* tokenValue(int32_t token) {
   return value;
 }
 
+Value* loneTokenValue(int32_t token) {
+  if (token < kFirstToken || token > kLastToken) return tokenValue(token);
+  static std::array<Value, kLastToken - kFirstToken + 1> tokens;
+  Value& value = tokens[static_cast<std::size_t>(token - kFirstToken)];
+  value.ival = token;
+  return &value;
+}
+
 Value* intValue(int32_t number) {
-  Value* value = createValue(kIntegerValue);
+  // Most positions and sizes. A larger table would cost a small file more pages than it saves.
+  static std::array<Value, 512> small_numbers;
+  const auto index = static_cast<uint32_t>(number);
+  Value* value = index < small_numbers.size() ? &small_numbers[index] : createValue(kIntegerValue);
+  value->kind = kIntegerValue;
   value->ival = number;
   return value;
 }
@@ -63,12 +76,22 @@ Action* makeAction(Value* from, Value* when, Value* to, Value* functionType, Val
   return action;
 }
 
+// The text of the first attribute of that name; null when there is none or when it is no string.
+static char* AttrText(const Attr* attrs, int32_t name) {
+  for (const Attr* attr = attrs; attr; attr = attr->next) {
+    if (attr->name == name) return attr->value ? attr->value->sval : nullptr;
+  }
+  return nullptr;
+}
+
 Obj* makeObj(int32_t type, Attr* attrs, Action* actions) {
   auto* obj = ArenaNew<Obj>();
   if (!obj) OutOfMemory("Out of memory allocating an object");
   obj->type = type;
   obj->attrs = attrs;
   obj->actions = actions;
+  obj->name = AttrText(attrs, NAME);
+  obj->owner = AttrText(attrs, OWNER);
   return obj;
 }
 

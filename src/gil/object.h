@@ -9,6 +9,7 @@
 #ifndef PANDREL_GIL_OBJECT_H
 #define PANDREL_GIL_OBJECT_H
 
+#include <cstddef>
 #include <cstdint>
 
 enum ValueKind : int32_t { kTokenValue = 0, kStringValue = 1, kIntegerValue = 2 };
@@ -48,12 +49,19 @@ struct Obj {
   Obj* children;
   Attr* attrs;
   Action* actions;
-  char* name;  // of the first NAME attribute, shared with it; null: none
+  // The texts of the first NAME and OWNER attributes, shared with them; null where there is none or
+  // it is no string. Looked up while the attributes were still at hand.
+  char* name;
+  char* owner;
 };
 
 // The constructors report exhausted memory through yyerror and end the run with status -1.
 Value* createValue(int32_t kind);
 Value* tokenValue(int32_t token);
+
+// Values that stand alone, not in a list: half of a file's. Nobody writes to them, so one record
+// serves all attributes that have the same token, or the same small number.
+Value* loneTokenValue(int32_t token);
 Value* intValue(int32_t number);
 
 // A string Value with a private copy of the first `length` bytes of `text`, which end at the first
@@ -65,6 +73,18 @@ Attr* makeAttr(int32_t name, Value* value);
 Action* makeAction(Value* from, Value* when, Value* to, Value* functionType, Value* argTypes,
                    Value* actionName);
 Obj* makeObj(int32_t type, Attr* attrs, Action* actions);
+
+// Asks the processor to bring the object and its attributes nearer, which are about to be read; null
+// is allowed. They were made one after the other, the object last, so they lie just before it.
+inline void FetchAhead(const Obj* obj) {
+  if (!obj) return;
+  constexpr std::ptrdiff_t kLine = 64;
+  constexpr std::ptrdiff_t kOrdinaryObject = 1024;
+  const auto* end = reinterpret_cast<const char*>(obj + 1);
+  for (std::ptrdiff_t before = 0; before <= kOrdinaryObject; before += kLine) {
+    __builtin_prefetch(end - before);
+  }
+}
 
 // Finds the object's first attribute of that name. 0 when there is none; else stores its value
 // (null for an empty list) in *valueOut, unlinks the attribute when `remove` is set, and returns 1.

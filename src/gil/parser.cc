@@ -36,21 +36,21 @@ static bool ParseScalar(int32_t token, Value** out) {
   return true;
 }
 
+// A token that is its own value. `MakeValue` is tokenValue where it becomes an element of a list.
+static bool ParseToken(Value* (*MakeValue)(int32_t), Value** out) {
+  *out = MakeValue(look_ahead);
+  Advance();
+  return true;
+}
+
 // name: identifier, string or nil
-static bool ParseName(Value** out) {
-  if (look_ahead == NIL) {
-    *out = tokenValue(NIL);
-    Advance();
-    return true;
-  }
+static bool ParseName(Value* (*MakeValue)(int32_t), Value** out) {
+  if (look_ahead == NIL) return ParseToken(MakeValue, out);
   return ParseScalar(IDENTIFIER, out) || ParseScalar(STRING_VALUE, out);
 }
 
-static bool ParseWord(ValueForm enumeration, Value** out) {
-  if (!IsWordOf(enumeration, look_ahead)) return false;
-  *out = tokenValue(look_ahead);
-  Advance();
-  return true;
+static bool ParseWord(ValueForm enumeration, Value* (*MakeValue)(int32_t), Value** out) {
+  return IsWordOf(enumeration, look_ahead) && ParseToken(MakeValue, out);
 }
 
 // nameList: "(" ")" or "(" names ")", kept in file order
@@ -59,7 +59,7 @@ static bool ParseNameList(Value** out) {
   Value* head = nullptr;
   Value** end = &head;
   while (!Accept(RPAREN)) {
-    if (!ParseName(end)) return false;
+    if (!ParseName(tokenValue, end)) return false;
     end = &(*end)->next;
   }
   *out = head;
@@ -72,8 +72,8 @@ static bool ParseReversedList(ValueForm element, Value** out) {
   Value* list = nullptr;
   while (!Accept(RPAREN)) {
     Value* value = nullptr;
-    const bool fits =
-        element == kString ? ParseScalar(STRING_VALUE, &value) : ParseWord(element, &value);
+    const bool fits = element == kString ? ParseScalar(STRING_VALUE, &value)
+                                         : ParseWord(element, tokenValue, &value);
     if (!fits) return false;
     Prepend(value, &list);
   }
@@ -90,7 +90,7 @@ static bool ParseValue(ValueForm form, Value** out) {
     case kIntegerOrString:
       return ParseScalar(INTEGER_VALUE, out) || ParseScalar(STRING_VALUE, out);
     case kName:
-      return ParseName(out);
+      return ParseName(loneTokenValue, out);
     case kNameList:
       return ParseNameList(out);
     case kStringList:
@@ -100,7 +100,7 @@ static bool ParseValue(ValueForm form, Value** out) {
     case kNoForm:
       return false;
     default:
-      return ElementForm(form) == kNoForm ? ParseWord(form, out)
+      return ElementForm(form) == kNoForm ? ParseWord(form, loneTokenValue, out)
                                           : ParseReversedList(ElementForm(form), out);
   }
 }
@@ -108,9 +108,7 @@ static bool ParseValue(ValueForm form, Value** out) {
 // functionType: ":user_defined", ":CallFunction" or an identifier
 static bool ParseFunctionType(Value** out) {
   if (look_ahead == USER_DEFINED || look_ahead == CALL_FUNCTION) {
-    *out = tokenValue(look_ahead);
-    Advance();
-    return true;
+    return ParseToken(loneTokenValue, out);
   }
   return ParseScalar(IDENTIFIER, out);
 }
@@ -201,7 +199,7 @@ static bool ParseProjectAttribute(Attr** out) {
       return true;
     case ROOT_WINDOW:
       Advance();
-      if (!ParseName(&value)) return false;
+      if (!ParseName(loneTokenValue, &value)) return false;
       *out = makeAttr(ROOT_WINDOW, value);
       return true;
     case ACTIONS:

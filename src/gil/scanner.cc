@@ -28,8 +28,9 @@ static_assert(kBufferSize > 2 * kLookAhead);
 // characters without NUL need not test for the end.
 constexpr char kBlanks[] = "        ";
 
-// With room behind the NUL for a look at as many bytes as kBlanks has.
-char buffer[kBufferSize + sizeof kBlanks];
+// With room behind the NUL for a look at a run of blanks or a keyword.
+char buffer[kBufferSize + kLongestKeyword + 1];
+static_assert(sizeof kBlanks <= kLongestKeyword);
 
 struct Input {
   const char* cursor = buffer;
@@ -137,18 +138,40 @@ Value* RepeatedValue() {
   return value;
 }
 
+// By keyword, the one that came behind it the last time. The editor writes an object's attributes
+// always in the same order, so it mostly comes again.
+std::array<const Keyword*, kLastToken - kFirstToken + 1> followers;
+
+// Whether the keyword is what stands behind the colon at the cursor.
+bool IsNext(const Keyword* keyword) {
+  const char* text = input.cursor + 1;
+  return std::memcmp(text, keyword->text, static_cast<std::size_t>(keyword->length)) == 0 &&
+         !Is(text[keyword->length], kKeyword);
+}
+
 // 0 for a keyword that the table lacks and for a colon that starts none.
 int32_t ScanColon() {
-  const char* token_end = SkipClass(input.cursor + 1, kKeyword);
-  if (token_end == input.cursor + 1) {
-    AcceptIllegalCharacter();
-    return 0;
+  static int32_t previous = kFirstToken;
+  const Keyword*& expected = followers[static_cast<std::size_t>(previous - kFirstToken)];
+  if (expected && IsNext(expected)) {
+    Accept(input.cursor + 1 + expected->length);
+  } else {
+    const char* token_end = SkipClass(input.cursor + 1, kKeyword);
+    if (token_end == input.cursor + 1) {
+      AcceptIllegalCharacter();
+      return 0;
+    }
+    Accept(token_end);
+    const Keyword* keyword = FindKeyword(yytext + 1, yyleng - 1);
+    if (!keyword) {
+      yyerror("Illegal keyword");
+      return 0;
+    }
+    expected = keyword;
   }
-  Accept(token_end);
-  const int32_t token = FindKeyword(yytext + 1, yyleng - 1);
-  if (token == 0) yyerror("Illegal keyword");
-  if (token == STRING_VALUE) yylval = RepeatedValue();
-  return token;
+  previous = expected->token;
+  if (previous == STRING_VALUE) yylval = RepeatedValue();
+  return previous;
 }
 
 int32_t ScanIdentifier() {

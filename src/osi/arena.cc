@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "osi/arena.h"
 
-#include <sys/mman.h>
-
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
+
+#include "osi/huge_pages.h"
 
 ArenaFree arena_free = {nullptr, nullptr};
 
@@ -20,7 +20,6 @@ constexpr bool kOneBlockAChunk = false;
 // that the kernel can back by huge pages: in large files the first touch of small ones took as long
 // as the parser.
 constexpr std::size_t kFirstChunkSize = 128 * 1024;
-constexpr std::size_t kHugePageSize = 2 * 1024 * 1024;
 
 // Chunks are linked through their headers only so that ArenaReset finds them.
 struct Chunk {
@@ -56,8 +55,7 @@ char* NewChunk(std::size_t size) {
 // The same in a huge page of its own, which its header is a part of.
 char* NewHugeChunk() {
   void* block = std::aligned_alloc(kHugePageSize, kHugePageSize);
-  // A wish: where the kernel does not grant it, small pages do.
-  if (block) madvise(block, kHugePageSize, MADV_HUGEPAGE);
+  if (block) WantHugePages(block, kHugePageSize);
   return AddChunk(block);
 }
 

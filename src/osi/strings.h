@@ -11,12 +11,8 @@
 #include <cstddef>
 #include <cstring>
 
-// strcmp, with a null string equal to an empty one. The converter's only string comparison; inline
-// because searches over attributes and resources spend their time here, often on shared texts.
-inline int OsiStrcmp(const char* a, const char* b) {
-  if (a == b) return 0;
-  return std::strcmp(a ? a : "", b ? b : "");
-}
+// strcmp, with a null string equal to an empty one. The converter's only string comparison.
+int OsiStrcmp(const char* a, const char* b);
 
 // strncmp, with a null string equal to an empty one.
 int OsiStrncmp(const char* a, const char* b, std::size_t n);

@@ -1,30 +1,46 @@
 // SPDX-License-Identifier: MIT
 #include "widget/name_index.h"
 
+#include <tsl/robin_map.h>
+
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <unordered_map>
+#include <functional>
+#include <utility>
 #include <vector>
 
+#include "osi/huge_pages.h"
 #include "osi/strings.h"
+#include "osi/text_map.h"
 #include "widget/links.h"
 #include "widget/tree.h"
 
 namespace {
 
+// Keys of the tables are hashes already; their lowest bit is always set.
+struct HashAsItIs {
+  std::size_t operator()(uint32_t hash) const { return hash >> 1; }
+};
+
+template <typename Mapped>
+struct ByHash : tsl::robin_map<uint32_t, Mapped, HashAsItIs, std::equal_to<uint32_t>,
+                               HugePageAllocator<std::pair<uint32_t, Mapped>>> {
+  ByHash() { this->max_load_factor(kFullTable); }
+};
+
 struct Index {
   Widg* newest = nullptr;   // of all widgets
   uint32_t made = 0;        // how many there are
   uint32_t file_start = 0;  // how many there were when the current file began
-  uint32_t indexed = 0;     // how many of them are in the buckets
-  // Widgets by hash of their name; each bucket has the newest in front. A power of two.
-  std::vector<Widg*> buckets;
+  uint32_t indexed = 0;     // how many of them are in the table
+  // By hash of their name, the newest widgets in front.
+  ByHash<Widg*> by_hash;
   unsigned renamed = 0;
   bool top_level_indexed = false;
   // Top-level widgets by hash of their name, in their order. Some may have left the top level or
   // have another name by now.
-  std::unordered_map<uint32_t, std::vector<Widg*>> top_level;
+  ByHash<std::vector<Widg*>> top_level;
 };
 
 Index index_;
@@ -36,36 +52,31 @@ uint32_t HashOf(const char* name) {
   return hash | 1U;
 }
 
-Widg** BucketOf(uint32_t hash) {
-  // The lowest bit is always set.
-  return &index_.buckets[(hash >> 1) & (index_.buckets.size() - 1)];
-}
-
-// Puts the widget in its bucket, in front of those that were made before it.
+// Puts the widget among those of its hash, in front of those that were made before it.
 void Insert(Widg* widg) {
-  Widg** link = BucketOf(widg->place.hash);
-  while (*link && (*link)->place.made > widg->place.made) link = &(*link)->place.same_bucket;
-  widg->place.same_bucket = *link;
+  const auto [first, is_only] = index_.by_hash.try_emplace(widg->place.hash, widg);
+  if (is_only) {
+    widg->place.same_hash = nullptr;
+    return;
+  }
+  Widg** link = &first.value();
+  while (*link && (*link)->place.made > widg->place.made) link = &(*link)->place.same_hash;
+  widg->place.same_hash = *link;
   *link = widg;
 }
 
-// Brings the widgets that were made since the last search into the buckets.
+// Brings the widgets that were made since the last search into the table.
 void CatchUp() {
   if (index_.indexed == index_.made) return;
-  std::size_t size = std::max<std::size_t>(index_.buckets.size(), 1024);
-  while (size < index_.made) size *= 2;
-  if (size != index_.buckets.size()) {
-    index_.buckets.assign(size, nullptr);
-    index_.indexed = 0;
-  }
   std::vector<Widg*> waiting;
   waiting.reserve(index_.made - index_.indexed);
+  if (index_.by_hash.empty()) index_.by_hash.reserve(index_.made);
   for (Widg* widg = index_.newest; widg && widg->place.made > index_.indexed;
        widg = widg->place.made_before) {
     waiting.push_back(widg);
   }
   for (auto widg = waiting.rbegin(); widg != waiting.rend(); ++widg) {
-    if ((*widg)->place.hash == 0) (*widg)->place.hash = HashOf((*widg)->gil_name);
+    (*widg)->place.hash = HashOf((*widg)->gil_name);
     Insert(*widg);
   }
   index_.indexed = index_.made;
@@ -92,10 +103,9 @@ void CatchUpTopLevel() {
   }
 }
 
-Widg* FirstNamed(Widg* widg, const char* name, uint32_t hash) {
-  while (widg && (widg->place.hash != hash || OsiStrcmp(widg->gil_name, name) != 0)) {
-    widg = widg->place.same_bucket;
-  }
+// Different names may have the same hash.
+Widg* FirstNamed(Widg* widg, const char* name) {
+  while (widg && OsiStrcmp(widg->gil_name, name) != 0) widg = widg->place.same_hash;
   return widg;
 }
 
@@ -111,10 +121,12 @@ void NameIndexMade(Widg* widg) {
 
 void NameIndexForget(Widg* widg) {
   if (widg->place.hash == 0) return;
-  Widg** link = BucketOf(widg->place.hash);
-  while (*link && *link != widg) link = &(*link)->place.same_bucket;
-  if (*link) *link = widg->place.same_bucket;
-  widg->place.same_bucket = nullptr;
+  const auto first = index_.by_hash.find(widg->place.hash);
+  Widg** link = &first.value();
+  while (*link != widg) link = &(*link)->place.same_hash;
+  *link = widg->place.same_hash;
+  if (!first->second) index_.by_hash.erase(first);
+  widg->place.same_hash = nullptr;
   widg->place.hash = 0;
 }
 
@@ -134,20 +146,17 @@ void NameIndexNewFile() { index_.file_start = index_.made; }
 
 Widg* NewestOfName(const char* name) {
   CatchUp();
-  if (index_.buckets.empty()) return nullptr;
-  const uint32_t hash = HashOf(name);
-  return FirstNamed(*BucketOf(hash), name, hash);
+  const auto newest = index_.by_hash.find(HashOf(name));
+  return newest == index_.by_hash.end() ? nullptr : FirstNamed(newest->second, name);
 }
 
-Widg* OlderOfName(const Widg* widg) {
-  return FirstNamed(widg->place.same_bucket, widg->gil_name, widg->place.hash);
-}
+Widg* OlderOfName(const Widg* widg) { return FirstNamed(widg->place.same_hash, widg->gil_name); }
 
 Widg* FirstTopLevelOfName(const char* name, bool with_child) {
   CatchUpTopLevel();
   const auto found = index_.top_level.find(HashOf(name));
   if (found == index_.top_level.end()) return nullptr;
-  std::vector<Widg*>& widgs = found->second;
+  std::vector<Widg*>& widgs = found.value();
   const auto HasLeft = [](const Widg* widg) { return widg->place.parent != kTopLevel; };
   // Those in front that are gone would be passed over again and again.
   const auto first = std::find_if_not(widgs.begin(), widgs.end(), HasLeft);

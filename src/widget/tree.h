@@ -36,7 +36,7 @@ struct Place {
   Widg* parent;         // whose list the widget is in; kTopLevel; null: in no list
   Widg* last_child;     // of this widget's list, unless it has left that; null: not known
   Widg* claimed_by;     // while top-level: who else has it in its list
-  Widg* same_bucket;    // the next older widget in the bucket of the name index
+  Widg* same_hash;      // the next older widget in the name index whose name has the same hash
   Widg* made_before;    // the widget made before this one
   uint32_t order;       // rises along a list
   uint32_t made;        // rises with each widget made
@@ -48,13 +48,18 @@ struct Place {
 };
 
 struct Widg {
-  Widg* next;                         // next sibling
-  const char* class_name;             // Motif class; empty: never written
-  char* name;                         // instance name, unique; the text belongs to the name table
+  // What walks and searches look at stands together.
+  Widg* next;              // next sibling
+  Widg* child;             // first child
+  const char* class_name;  // Motif class; empty: never written
+  Resource* resources;     // in the order in which each name was first set
+  // Marks of walks, so that each ends whatever the links are.
+  uint32_t visit;                     // of the search that saw the widget last (widget/search.cc)
+  uint32_t walk;                      // of the walk that saw it last (widget/walk.h)
   char* gil_name;                     // the requested name as it was before it was made legal
-  Widg* child;                        // first child
+  Place place;                        // where the links put it
+  char* name;                         // instance name, unique; the text belongs to the name table
   Callback* callbacks;                // in insertion order
-  Resource* resources;                // in the order in which each name was first set
   Action* actions;                    // of the GIL object; null for companions
   int32_t managed;                    // 0: listed as "unmanaged" by its parent
   int32_t wrapped;                    // 1: a companion made for its sake stands around it
@@ -62,10 +67,6 @@ struct Widg {
   int32_t generated;                  // 1: written already
   int32_t extra_width, extra_height;  // pixels that Motif needs beyond the GIL size
   bool shares_lists;  // a copy of this widget, or the one that it is a copy of, has the same lists
-  // Marks of walks, so that each ends whatever the links are.
-  uint32_t visit;  // of the search that saw the widget last (widget/search.cc)
-  uint32_t walk;   // of the walk that saw it last (widget/walk.h)
-  Place place;     // where the links put it
 };
 
 // The first of the top-level widgets: shells, dialog shells, and menus before the clean-up.

@@ -311,6 +311,13 @@ void Mutator::Reaction() {
   Set(object, ":actions", MakeList(actions));
 }
 
+// The form that the attribute's value should have; kNoForm for an unknown keyword.
+static ValueForm FormOf(const OutlineAttribute& attribute) {
+  const std::string& word = attribute.keyword;
+  const Keyword* keyword = word.empty() ? nullptr : FindKeyword(word.data() + 1, word.size() - 1);
+  return keyword ? AttributeForm(keyword->token) : kNoForm;
+}
+
 void Mutator::ChangeListLength() {
   OutlineObject* object = Object();
   if (object == nullptr || object->attributes.empty()) return;
@@ -322,10 +329,7 @@ void Mutator::ChangeListLength() {
     if (attribute.value.empty() || attribute.value.front() != '(') continue;
     std::vector<std::string> elements = ListElements(attribute.value);
     if (elements.empty()) {
-      const ValueForm form = attribute.keyword.empty()
-                                 ? kNoForm
-                                 : AttributeForm(FindKeyword(attribute.keyword.data() + 1,
-                                                             attribute.keyword.size() - 1));
+      const ValueForm form = FormOf(attribute);
       attribute.value = attribute.keyword == ":actions" ? MakeList({Action()}) : Value(form);
       return;
     }
@@ -353,9 +357,7 @@ void Mutator::ChangeValue() {
   OutlineObject* object = Object();
   if (object == nullptr || object->attributes.empty()) return;
   OutlineAttribute& attribute = object->attributes[Below(object->attributes.size())];
-  if (attribute.keyword.empty()) return;
-  const ValueForm form =
-      AttributeForm(FindKeyword(attribute.keyword.data() + 1, attribute.keyword.size() - 1));
+  const ValueForm form = FormOf(attribute);
   if (form != kNoForm) attribute.value = Value(form);
 }
 

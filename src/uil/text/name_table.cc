@@ -29,7 +29,7 @@ static NameTable instance_names;
 static bool first_use = true;
 
 NameHandle NameLookup(const NameTable* table, const char* name) {
-  const auto found = table->index.find(name ? name : "");
+  const auto found = table->index.find(name);
   return found == table->index.end() ? kNoName : found->second;
 }
 
@@ -38,7 +38,7 @@ static NameHandle NameEnter(NameTable* table, const char* name, std::size_t leng
   if (!text) Error("Out of memory in NameCreate");
   const auto handle = static_cast<NameHandle>(table->entries.size());
   table->entries.push_back({text, 1});
-  table->index.emplace(std::string_view(text, length), handle);
+  table->index.emplace(text, handle);
   return handle;
 }
 
@@ -58,15 +58,15 @@ NameHandle NameCreate(NameTable* table, const char* name) {
   if (IsDeleted(table, found)) return Revive(table, found);
 
   std::string numbered = name;
-  OsiRemoveEndDigits(numbered.data());
+  OsiCutEndDigits(numbered.data());
   const std::size_t base_length = std::strlen(numbered.c_str());
   auto untried = table->first_untried.find(std::string_view(numbered).substr(0, base_length));
   if (untried == table->first_untried.end()) {
     char* base = ArenaText(numbered.data(), base_length);
     if (!base) Error("Out of memory in NameCreate");
-    untried = table->first_untried.emplace(std::string_view(base, base_length), 1).first;
+    untried = table->first_untried.emplace(base, 1).first;
   }
-  for (int32_t& number = untried->second;; ++number) {
+  for (int32_t& number = untried.value();; ++number) {
     char digits[12];
     const char* end = std::to_chars(digits, digits + sizeof digits, number).ptr;
     numbered.replace(base_length, std::string::npos, digits,

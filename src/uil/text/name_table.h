@@ -9,9 +9,9 @@
 #define PANDREL_UIL_TEXT_NAME_TABLE_H
 
 #include <cstdint>
-#include <string_view>
-#include <unordered_map>
 #include <vector>
+
+#include "osi/text_map.h"
 
 using NameHandle = int32_t;
 constexpr NameHandle kNoName = -1;
@@ -25,11 +25,11 @@ struct NameTable {
   std::vector<NameEntry> entries;  // by handle
   // Keys are the texts as they were entered. Texts renamed by their holders afterwards are looked
   // for by nobody: renaming happens only when the module is otherwise complete.
-  std::unordered_map<std::string_view, NameHandle> index;
+  TextMap<NameHandle> index;
   // By base of a numbered name: a number below which every numbered form is in use, so that the
   // search for the lowest free one need not start from 1 again. Forgotten whenever a name is
   // deleted.
-  std::unordered_map<std::string_view, int32_t> first_untried;
+  TextMap<int32_t> first_untried;
 };
 
 // Enters a unique form of `name` (null counts as empty) and returns its handle.

@@ -143,25 +143,33 @@ TEST(KeywordsTest, LackOnlyWhatTheScannerMakesOtherwise) {
                                         GIL_VERSION_3, IDENTIFIER, INTEGER_VALUE}));
 }
 
+// The token of the keyword with the first `length` bytes of `text`, or 0.
+static int32_t TokenOf(const char* text, std::size_t length) {
+  const Keyword* keyword = FindKeyword(text, length);
+  return keyword ? keyword->token : 0;
+}
+
 TEST(KeywordsTest, AreFoundByTextAndByToken) {
   for (const Keyword* keyword = keywords; keyword->text; ++keyword) {
-    EXPECT_EQ(FindKeyword(keyword->text, std::strlen(keyword->text)), keyword->token);
+    EXPECT_EQ(TokenOf(keyword->text, std::strlen(keyword->text)), keyword->token);
     EXPECT_STREQ(KeywordText(keyword->token), keyword->text);
+    EXPECT_EQ(static_cast<std::size_t>(keyword->length), std::strlen(keyword->text));
+    EXPECT_LE(std::strlen(keyword->text), kLongestKeyword);
   }
 }
 
 TEST(KeywordsTest, AreComparedWholeAndCaseSensitively) {
-  EXPECT_EQ(FindKeyword("name", 3), 0);
-  EXPECT_EQ(FindKeyword("names", 5), 0);
-  EXPECT_EQ(FindKeyword("Name", 4), 0);
-  EXPECT_EQ(FindKeyword("", 0), 0);
-  EXPECT_EQ(FindKeyword("namesake", 4), NAME);
+  EXPECT_EQ(TokenOf("name", 3), 0);
+  EXPECT_EQ(TokenOf("names", 5), 0);
+  EXPECT_EQ(TokenOf("Name", 4), 0);
+  EXPECT_EQ(TokenOf("", 0), 0);
+  EXPECT_EQ(TokenOf("namesake", 4), NAME);
 }
 
 TEST(KeywordsTest, KeepTheSpellingsOfTheFormat) {
-  EXPECT_EQ(FindKeyword("drop-target_width", 17), DROP_TARGET_WIDTH);
-  EXPECT_EQ(FindKeyword("drop-target-width", 17), 0);
-  EXPECT_EQ(FindKeyword("user-defined", 12), 0);
+  EXPECT_EQ(TokenOf("drop-target_width", 17), DROP_TARGET_WIDTH);
+  EXPECT_EQ(TokenOf("drop-target-width", 17), 0);
+  EXPECT_EQ(TokenOf("user-defined", 12), 0);
 }
 
 TEST(KeywordsTest, HaveNoTextForOtherNumbers) {
