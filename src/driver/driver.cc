@@ -6,6 +6,7 @@
 #include "convert/actions.h"
 #include "convert/objects.h"
 #include "driver/options/flags.h"
+#include "driver/standard_streams.h"
 #include "gil/object.h"
 #include "gil/parser.h"
 #include "gil/scanner.h"
@@ -25,6 +26,7 @@ std::FILE* OpenOutput() {
     std::printf("Warning: Cannot open file %s for writing", outfile);
     OsiExit(-1);
   }
+  UseOwnBuffer(output);
   return output;
 }
 
@@ -87,6 +89,7 @@ static void ProcessInterface(const char* name) {
     // The stream is closed now; what it yields must be nothing, not a fault.
     if (!std::freopen("/dev/null", "r", stdin)) OsiExit(-1);
   }
+  UseOwnBuffer(stdin);
   if (verbose) std::printf("Opening project subfile: %s\n", name);
   yyrestart();
   ProcessGILFile(EndOfTopLevel());

@@ -11,6 +11,7 @@
 #include "gil/tokens.h"
 #include "gil/version.h"
 #include "osi/fatal.h"
+#include "osi/io_buffer.h"
 
 const char* yytext = "";
 std::size_t yyleng = 0;
@@ -21,16 +22,16 @@ namespace {
 
 // Enough to tell a token that is one byte too long from one that just fits.
 constexpr std::size_t kLookAhead = kTokenLimit + 2;
-constexpr std::size_t kBufferSize = 32 * 1024;
+constexpr std::size_t kBufferSize = kIoBufferSize;
 static_assert(kBufferSize > 2 * kLookAhead);
 
 // A window on standard input. A NUL stands behind the last byte read, so that loops over a class of
 // characters without NUL need not test for the end.
 constexpr char kBlanks[] = "        ";
 
-// With room behind the NUL for a look at a run of blanks or a keyword.
-char buffer[kBufferSize + kLongestKeyword + 1];
-static_assert(sizeof kBlanks <= kLongestKeyword);
+// Room behind the NUL for a look at a run of blanks or a keyword.
+static_assert(kIoBufferMargin > kLongestKeyword && kIoBufferMargin > sizeof kBlanks);
+char* const buffer = io_buffer;
 
 struct Input {
   const char* cursor = buffer;
@@ -77,7 +78,7 @@ void Refill() {
   while (end < buffer + kBufferSize && !input.at_end) {
     const auto room = static_cast<std::size_t>(buffer + kBufferSize - end);
     const std::size_t got = std::fread(end, 1, room, stdin);
-    if (got == 0) input.at_end = true;
+    input.at_end = got < room;
     end += got;
   }
   *end = '\0';
@@ -269,13 +270,17 @@ int32_t ScanOne() {
 // Blanks, tabs and newlines, of which there are more than of anything else.
 static void SkipBlanks() {
   const char* c = input.cursor;
-  for (;; ++c) {
-    // Values are aligned in columns, so blanks come in runs.
-    while (std::memcmp(c, kBlanks, sizeof kBlanks - 1) == 0) c += sizeof kBlanks - 1;
-    while (*c == ' ') ++c;
+  while (static_cast<unsigned char>(*c) <= ' ') {
     if (*c == '\n') {
       ++yylineno;
-    } else if (*c != '\t') {
+      ++c;
+    } else if (*c == '\t') {
+      ++c;
+    } else if (*c == ' ') {
+      // Values are aligned in columns, so blanks come in runs.
+      while (std::memcmp(c, kBlanks, sizeof kBlanks - 1) == 0) c += sizeof kBlanks - 1;
+      while (*c == ' ') ++c;
+    } else {
       break;
     }
   }

@@ -19,7 +19,7 @@ constexpr bool kOneBlockAChunk = false;
 // The first chunk is for the ordinary file. Each further one is four times as large, up to a size
 // that the kernel can back by huge pages: in large files the first touch of small ones took as long
 // as the parser.
-constexpr std::size_t kFirstChunkSize = 128 * 1024;
+constexpr std::size_t kFirstChunkSize = 256 * 1024;
 
 // Chunks are linked through their headers only so that ArenaReset finds them.
 struct Chunk {
@@ -93,7 +93,7 @@ bool StartChunk() {
 }
 
 bool WantsChunkOfItsOwn(std::size_t size) {
-  return kOneBlockAChunk || state.successes_left >= 0 || size > kFirstChunkSize / 8;
+  return kOneBlockAChunk || state.successes_left >= 0 || size > kFirstChunkSize / 16;
 }
 
 }  // namespace

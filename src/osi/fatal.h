@@ -5,14 +5,14 @@
 #ifndef PANDREL_OSI_FATAL_H
 #define PANDREL_OSI_FATAL_H
 
-// Called instead of exit() with the exit status. It must not return: it throws or jumps.
+// Called, instead of ending the process, with the exit status. It must not return: it throws or jumps.
 using OsiExitHandler = void (*)(int status);
 
 // Ends the run with `status` (negative ones as the shell sees them, modulo 256): through the
-// handler when one is set, else through exit(), which flushes the open streams.
+// handler when one is set, else at once, with the open streams flushed and no destructor run.
 [[noreturn]] void OsiExit(int status);
 
-// Sets the handler (null restores exit()) and returns the one before it.
+// Sets the handler (null: none) and returns the one before it.
 OsiExitHandler OsiSetExitHandler(OsiExitHandler handler);
 
 // Makes every `new` that finds no memory, the library's own included, say so on standard error and

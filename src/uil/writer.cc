@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "driver/options/flags.h"
+#include "osi/io_buffer.h"
 #include "osi/strings.h"
 #include "uil/text/name_table.h"
 #include "widget/procedures.h"
@@ -13,11 +14,11 @@
 
 namespace {
 
-// The module is gathered in pieces of this size before it goes to the stream.
-constexpr std::size_t kPieceSize = 32 * 1024;
+// The module is gathered in pieces before it goes to the stream.
+constexpr std::size_t kPieceSize = kIoBufferSize;
 
 std::FILE* output = nullptr;
-char piece[kPieceSize];
+char* const piece = io_buffer;
 std::size_t piece_length = 0;
 
 void Flush() {

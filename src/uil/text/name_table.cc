@@ -109,6 +109,9 @@ int32_t NamePosition(const NameTable* table, const char* name) {
 NameTable* InstanceNameTbl() {
   if (first_use) {
     first_use = false;
+    // Room for an ordinary interface.
+    instance_names.entries.reserve(400);
+    instance_names.index.reserve(400);
     AddUILKeyWordsToTable(&instance_names);
   }
   return &instance_names;
