@@ -97,9 +97,7 @@ static constexpr std::array<uint8_t, kSlots> BuildSlots() {
   static_assert(std::size(keywords) <= 256);
   std::array<uint8_t, kSlots> slots{};
   for (std::size_t row = 0; keywords[row].text; ++row) {
-    const std::string_view text = keywords[row].text;
-    if (text.size() > kLongestKeyword) throw "a keyword is longer than announced";
-    std::size_t slot = HashOf(text);
+    std::size_t slot = HashOf(keywords[row].text);
     while (slots[slot] != 0) slot = (slot + 1) % kSlots;
     slots[slot] = static_cast<uint8_t>(row + 1);
   }
@@ -107,6 +105,14 @@ static constexpr std::array<uint8_t, kSlots> BuildSlots() {
 }
 
 static constexpr std::array<uint8_t, kSlots> kSlotTable = BuildSlots();
+
+static constexpr bool NoneIsLonger(std::size_t length) {
+  for (const Keyword& keyword : keywords) {
+    if (static_cast<std::size_t>(keyword.length) > length) return false;
+  }
+  return true;
+}
+static_assert(NoneIsLonger(kLongestKeyword));
 
 const Keyword* FindKeyword(const char* text, std::size_t length) {
   if (length == 0) return nullptr;

@@ -55,6 +55,31 @@ TEST_F(ObjectTest, IntValueHoldsANumber) {
   EXPECT_EQ(value->sval, nullptr);
 }
 
+TEST_F(ObjectTest, NumbersKeepTheirValueHoweverManyThereAre) {
+  for (int32_t number : {0, 1, 511, 512, -1, 2147483647, -2147483647 - 1}) {
+    const Value* value = intValue(number);
+    intValue(number ^ 1);
+    EXPECT_EQ(value->ival, number);
+    EXPECT_EQ(value->kind, 2);
+    EXPECT_EQ(value->next, nullptr);
+  }
+}
+
+TEST_F(ObjectTest, LoneTokensAreShared) {
+  const Value* value = loneTokenValue(NIL);
+  EXPECT_EQ(value, loneTokenValue(NIL));
+  EXPECT_NE(value, loneTokenValue(T));
+  EXPECT_EQ(value->kind, 0);
+  EXPECT_EQ(value->ival, 437);
+  EXPECT_EQ(value->next, nullptr);
+}
+
+TEST_F(ObjectTest, TokensOfListsAreNotShared) { EXPECT_NE(tokenValue(NIL), tokenValue(NIL)); }
+
+TEST_F(ObjectTest, NumberThatIsNoTokenMakesALoneValueAllTheSame) {
+  EXPECT_EQ(loneTokenValue(7)->ival, 7);
+}
+
 TEST_F(ObjectTest, StringValueHoldsACopy) {
   char text[] = "abcdef";
   const Value* value = stringValue(1, text, 3);
@@ -128,7 +153,7 @@ class ObjectMemoryTest : public SessionFixture {
 TEST_F(ObjectMemoryTest, ValuesAreReported) {
   ExpectReport([] { createValue(0); }, "a Value");
   ExpectReport([] { tokenValue(NIL); }, "a Value");
-  ExpectReport([] { intValue(1); }, "a Value");
+  ExpectReport([] { intValue(1000); }, "a Value");
   ExpectReport([] { Str("a"); }, "a Value");
 }
 

@@ -147,7 +147,7 @@ TEST_F(ParserTest, SizeOfAFileIsNoMatter) {
 }
 
 TEST_F(ParserTest, RecordWithoutMemoryEndsTheRun) {
-  SetInput("((:type :button :x 1))");
+  SetInput("((:type :button :x 1000))");
   // Served: the number. Not served: its attribute.
   const Outcome outcome = RunOutOfMemory(1, [] { yyparse(); });
   EXPECT_EQ(outcome.status, -1);

@@ -145,6 +145,33 @@ TEST_F(ScannerTest, KeywordEndsBeforeACapital) {
   EXPECT_EQ(Scan(":nameX"), (Tokens{{NAME, ":name"}, {IDENTIFIER, "X"}}));
 }
 
+// What came behind a keyword the last time is expected to come again; what else comes must be
+// found.
+TEST_F(ScannerTest, KeywordIsFoundWhateverCameBehindTheOneBefore) {
+  const std::pair<int32_t, std::string> menu = {MENU, ":menu"};
+  const std::pair<int32_t, std::string> label = {LABEL, ":label"};
+  EXPECT_EQ(
+      Scan(":menu :label :menu :label :menu :labels :menu :label-type :menu :label :menu :lab"),
+      (Tokens{menu,
+              label,
+              menu,
+              label,
+              menu,
+              {LABELS, ":labels"},
+              menu,
+              {LABEL_TYPE, ":label-type"},
+              menu,
+              label,
+              menu}));
+  EXPECT_EQ(outcome.err, "\n*** 1: Illegal keyword at :lab\n");
+}
+
+TEST_F(ScannerTest, KeywordThatIsExpectedMayEndWithTheInput) {
+  Scan(":menu :label");
+  EXPECT_EQ(Scan(":menu :label"), (Tokens{{MENU, ":menu"}, {LABEL, ":label"}}));
+  EXPECT_EQ(Scan(":menu :labe"), (Tokens{{MENU, ":menu"}}));
+}
+
 TEST_F(ScannerTest, UnknownKeywordIsReportedAndDropped) {
   EXPECT_EQ(Scan("(\n:nosuch )"), (Tokens{{LPAREN, "("}, {RPAREN, ")"}}));
   EXPECT_EQ(outcome.err, "\n*** 2: Illegal keyword at :nosuch\n");
@@ -467,7 +494,7 @@ TEST_F(ScannerTest, TokenInAMessageEndsAtItsFirstNul) {
 }
 
 TEST_F(ScannerTest, ValueWithoutMemoryEndsTheRun) {
-  for (const char* input : {"abc", "\"abc\"", "12", ":string-value"}) {
+  for (const char* input : {"abc", "\"abc\"", "1234", ":string-value"}) {
     SetInput(input);
     outcome = RunOutOfMemory(0, [] { yylex(); });
     EXPECT_EQ(outcome.status, -1) << input;
