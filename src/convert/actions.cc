@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "convert/events.h"
+#include "convert/item_finder.h"
 #include "driver/options/flags.h"
 #include "gil/object.h"
 #include "gil/tokens.h"
@@ -157,23 +158,17 @@ void ProcessAction(Widg* widg, const Action* action) {
   }
 }
 
-Widg* LocateFromWidg(Widg* widg, const Action* action) {
+Widg* LocateFromWidg(Widg* widg, ItemFinder* items, const Action* action) {
   const Value* from = LastValue(action->from);
-  if (!from) return widg;
-  const char* name = ValueText(from);
-  if (OsiStrcmp(name, widg->gil_name) == 0) return widg;
-  for (Widg* child = widg->child; child; child = child->next) {
-    if (OsiStrcmp(GetResourceValue(child, "XmNlabelString"), name) == 0 ||
-        OsiStrcmp(GetResourceValue(child, "XmNoriginalPixmapName"), name) == 0) {
-      return child;
-    }
-  }
-  return widg;
+  if (!from || OsiStrcmp(ValueText(from), widg->gil_name) == 0) return widg;
+  Widg* item = items->Find(ValueText(from));
+  return item ? item : widg;
 }
 
 void ProcessActionsForWidg(Widg* widg) {
+  ItemFinder items(widg);
   for (const Action* action = widg->actions; action; action = action->next) {
-    ProcessAction(LocateFromWidg(widg, action), action);
+    ProcessAction(LocateFromWidg(widg, &items, action), action);
   }
 }
 

@@ -74,8 +74,8 @@ Action* makeAction(Value* from, Value* when, Value* to, Value* functionType, Val
                    Value* actionName);
 Obj* makeObj(int32_t type, Attr* attrs, Action* actions);
 
-// Asks the processor to bring the object and its attributes nearer, which are about to be read; null
-// is allowed. They were made one after the other, the object last, so they lie just before it.
+// Asks the processor to bring the object and its attributes nearer, which are about to be read;
+// null is allowed. They were made one after the other, the object last, so they lie just before it.
 inline void FetchAhead(const Obj* obj) {
   if (!obj) return;
   constexpr std::ptrdiff_t kLine = 64;

@@ -17,6 +17,7 @@ const char* yytext = "";
 std::size_t yyleng = 0;
 int32_t yylineno = 1;
 Value* yylval = nullptr;
+bool texts_are_repeated = false;
 
 namespace {
 
@@ -130,6 +131,7 @@ int32_t ScanSemicolon() {
 // The same kind, number and shared text as the value before, as a Value of its own: the keyword
 // string-value delivers a string token that no text of the file backs.
 Value* RepeatedValue() {
+  texts_are_repeated = true;
   const Value* previous = yylval;
   Value* value = createValue(previous ? previous->kind : static_cast<int32_t>(kStringValue));
   if (previous) {
@@ -323,4 +325,5 @@ void ResetScanner() {
   yyleng = 0;
   yylineno = 1;
   yylval = nullptr;
+  texts_are_repeated = false;
 }

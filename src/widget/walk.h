@@ -20,6 +20,10 @@
 
 constexpr std::size_t kMaxRepeats = 100000;
 
+// For fuzzers, which would spend their time on repeats: walks from now on give up after so many.
+void LimitRepeats(std::size_t max_repeats);
+std::size_t MaxRepeats();
+
 // What a recursive function would do, one after the other, once it stands on a widget.
 enum class WalkStep : uint8_t { kSelf, kChild, kNext };
 using WalkOrder = std::array<WalkStep, 3>;
@@ -37,12 +41,13 @@ void WalkWidgets(Widg* first, const WalkOrder& order, Enter MayEnter, Handler Ha
     std::size_t step;
   };
   const uint32_t seen = NewWalk();
+  const std::size_t max_repeats = MaxRepeats();
   const uint32_t on_path = seen + 1;
   std::size_t repeats = 0;
   std::vector<Frame> path;
   const auto Visit = [&](Widg* widg) {
     if (!widg || widg->walk == on_path || !MayEnter(widg)) return;
-    if (widg->walk == seen && ++repeats > kMaxRepeats) return;
+    if (widg->walk == seen && ++repeats > max_repeats) return;
     widg->walk = on_path;
     path.push_back({widg, 0});
   };

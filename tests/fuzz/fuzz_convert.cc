@@ -18,6 +18,7 @@
 #include "uil/writer.h"
 #include "widget/search.h"
 #include "widget/tree.h"
+#include "widget/walk.h"
 
 namespace {
 
@@ -83,6 +84,7 @@ extern "C" {
 int LLVMFuzzerInitialize(int*, char***) {
   BufferStreams();
   CheckSearches(true);
+  LimitRepeats(1000);
   return 0;
 }
 

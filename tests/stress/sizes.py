@@ -191,6 +191,28 @@ def connections(converter):
     outcome.expect_count(b"\nprocedure call", count)
 
 
+def item_actions(converter):
+    """A menu of a million items, each with an action."""
+    count = objects(converter)
+
+    def chunks(text):
+        for start in range(0, count, 1000):
+            yield b"".join(text % i for i in range(start, min(start + 1000, count)))
+
+    def blocks():
+        yield b"((:type :menu :name m :menu-type :command :menu-item-labels ("
+        yield from chunks(b'"c%d" ')
+        yield b") :actions ("
+        yield from chunks(b'(:from ("c%d") :when (Notify) :to () :function_type CallFunction '
+                          b":arg_type () :action (call))")
+        yield b"))(:type :button :name b :menu m))"
+
+    outcome = converter.convert(blocks())
+    outcome.expect_module()
+    outcome.expect_count(BUTTON, count)
+    outcome.expect_count(b"XmNactivateCallback = procedure call();\n", count)
+
+
 def attributes(converter):
     """One object with a million attributes, of which the last counts."""
     count = objects(converter)
@@ -346,7 +368,7 @@ CASES = [
     owner_chain, owner_chain_reversed, menu_chain, group_chain, name_list, members,
     one_container, same_name, same_name_top, renumber, button_menus, same_menu, missing_menus,
     actions, procedures, grouped, orphans, windows, list_values, choices, menu_items,
-    connections, attributes, realistic, comments, blanks, blanks_before_long_string,
+    connections, item_actions, attributes, realistic, comments, blanks, blanks_before_long_string,
     illegal_characters, dashes, quotes, parentheses, string_at_limit, string_over_limit,
     identifier_at_limit, identifier_over_limit, comment_over_limit, interface_names,
     nested_projects, project_files,

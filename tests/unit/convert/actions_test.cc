@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "convert/item_finder.h"
 #include "driver/options/flags.h"
 #include "unit/support/fatal_end.h"
 #include "unit/support/gil_objects.h"
@@ -367,7 +368,8 @@ Widg* Choices() {
 Widg* From(Widg* widg, std::initializer_list<std::string_view> path) {
   Action* action = Call("", "Notify", "quit");
   action->from = Ids(FROM, path)->value;
-  return LocateFromWidg(widg, action);
+  ItemFinder items(widg);
+  return LocateFromWidg(widg, &items, action);
 }
 
 TEST_F(Actions, ActionFromAnItemLandsOnTheChildOfThatLabel) {

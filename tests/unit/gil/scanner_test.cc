@@ -322,9 +322,11 @@ TEST_F(ScannerTest, StringValueKeywordRepeatsTheValueBefore) {
 
 TEST_F(ScannerTest, StringValueKeywordSharesTheTextInARecordOfItsOwn) {
   const Value* first = Carried("\"text\"");
+  EXPECT_FALSE(texts_are_repeated);
   const Value* again = Carried(":string-value");
   EXPECT_NE(again, first);
   EXPECT_EQ(again->sval, first->sval);
+  EXPECT_TRUE(texts_are_repeated);
 }
 
 TEST_F(ScannerTest, StringValueKeywordRepeatsANumber) {

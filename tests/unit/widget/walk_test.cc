@@ -73,19 +73,33 @@ TEST_F(WidgWalk, WidgetAddedBelowTheHandledOneIsHandledToo) {
   EXPECT_EQ(names, "ab");
 }
 
-TEST_F(WidgWalk, MorePathsThanAnybodyCanWalkEnd) {
+// So many levels of two siblings that share the level below.
+Widg* ManyPaths(int levels) {
   Widg* below = Leaf("m");
-  for (int level = 0; level < 60; ++level) {
+  for (int level = 0; level < levels; ++level) {
     Widg* left = Leaf("l");
     Widg* right = Leaf("r");
     SetChildren(left, below);
     ClaimChild(right, below);
     below = Siblings({left, right});
   }
+  return below;
+}
+
+TEST_F(WidgWalk, MorePathsThanAnybodyCanWalkEnd) {
   std::size_t handled = 0;
-  WalkWidgets(below, kSelfFirst, Always, [&](const Widg*) { ++handled; });
+  WalkWidgets(ManyPaths(60), kSelfFirst, Always, [&](const Widg*) { ++handled; });
   EXPECT_GT(handled, kMaxRepeats);
   EXPECT_LT(handled, 2 * kMaxRepeats);
+}
+
+TEST_F(WidgWalk, FuzzersMayHaveFewerRepeats) {
+  LimitRepeats(10);
+  std::size_t handled = 0;
+  WalkWidgets(ManyPaths(10), kSelfFirst, Always, [&](const Widg*) { ++handled; });
+  LimitRepeats(kMaxRepeats);
+  // Each of the widgets once, and the repeats.
+  EXPECT_EQ(handled, 21U + 10U);
 }
 
 TEST_F(WidgWalk, DeepTreeDoesNotExhaustTheStack) {
