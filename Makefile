@@ -5,7 +5,7 @@ PREFIX ?= /usr/local
 JOBS ?= $(shell nproc)
 EXAMPLE ?= examples/hello.G
 
-.PHONY: help setup setup-dev build demo check install uninstall package
+.PHONY: help setup setup-fuzz setup-dev build demo check install uninstall package
 .PHONY: asan clang debug coverage bench fuzz stress gallery format lint clean
 
 help: ## this list
@@ -13,6 +13,9 @@ help: ## this list
 
 setup: ## install the Debian packages that the build and the tests need
 	@scripts/setup
+
+setup-fuzz: ## also the second compiler with its fuzzer
+	@scripts/setup --fuzz
 
 setup-dev: ## also those that the developers' chores need
 	@scripts/setup --dev
@@ -35,7 +38,7 @@ asan debug: setup ## build and test with the sanitizers / for the debugger
 	cmake --build --preset $@ -j $(JOBS)
 	ctest --preset $@
 
-clang: setup-dev ## build and test with the second compiler
+clang: setup-fuzz ## build and test with the second compiler
 	cmake --preset $@
 	cmake --build --preset $@ -j $(JOBS)
 	ctest --preset $@
@@ -50,7 +53,7 @@ bench: setup-dev ## measure start-up, throughput and growth
 	cmake --build --preset $@ -j $(JOBS)
 	cmake --build --preset $@ --target bench
 
-fuzz: setup-dev ## a minute of fuzzing, all targets
+fuzz: setup-fuzz ## a minute of fuzzing, all targets
 	cmake --preset $@
 	cmake --build --preset $@ -j $(JOBS)
 	tests/fuzz/run --build build/fuzz
