@@ -80,8 +80,9 @@ static Widg* MakeItem(const Widg* menu, int32_t menu_type, const ItemLists& item
   if (ValueToken(item.state, ACTIVE) == INACTIVE) AddResource(widg, "XmNsensitive", "false");
   if (toggles && ValueToken(item.selected, NIL) == T) AddResource(widg, "XmNset", "true");
   SetSubMenu(widg, item.submenu);
-  if (HasGilText(item.color))
+  if (HasGilText(item.color)) {
     AddResource(widg, "XmNforeground", MakeColorVal(ValueText(item.color)));
+  }
   return widg;
 }
 

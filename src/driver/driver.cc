@@ -60,6 +60,7 @@ Obj* PutMenusFirst(Obj* objects) {
 Widg* ConvertObjHierToWidgHier(Obj* objects, Widg** listLink) {
   Widg* last = nullptr;
   for (Obj* obj = objects; obj; obj = obj->next) {
+    NameIndexNewUnit();
     Widg* widg = ProcessObj(obj, nullptr);
     if (obj->type == GROUP) continue;
     LinkTopLevel(last && *listLink ? &last->next : listLink, widg);

@@ -17,8 +17,9 @@ void OsiExit(int status) {
 #ifdef PANDREL_REPORTS_AT_EXIT
   std::exit(status);
 #else
-  // Only what is in the streams matters. What exit() would do besides, destructors and the libraries'
-  // own endings, tidies memory that is about to be gone, and takes as long as reading a small file.
+  // Only what is in the streams matters. What exit() would do besides, destructors and the
+  // libraries' own endings, tidies memory that is about to be gone, and takes as long as reading a
+  // small file.
   std::fflush(nullptr);
   _exit(status);
 #endif

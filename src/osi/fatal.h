@@ -5,7 +5,8 @@
 #ifndef PANDREL_OSI_FATAL_H
 #define PANDREL_OSI_FATAL_H
 
-// Called, instead of ending the process, with the exit status. It must not return: it throws or jumps.
+// Called, instead of ending the process, with the exit status. It must not return: it throws or
+// jumps.
 using OsiExitHandler = void (*)(int status);
 
 // Ends the run with `status` (negative ones as the shell sees them, modulo 256): through the

@@ -33,7 +33,8 @@ struct LinkState {
   uint32_t last_order = 0;
   unsigned claims = 0;  // top-level widgets that somebody below claims
   bool tangled = false;
-  bool mixed = false;
+  bool units_mixed = false;
+  bool files_mixed = false;
 };
 
 LinkState state;
@@ -44,6 +45,18 @@ Widg* RootOf(Widg* widg) {
   return widg;
 }
 
+// Tells all above a widget how old what is below it may be.
+void NoteOldest(Widg* widg) {
+  const uint32_t oldest = widg->place.oldest;
+  while (widg->place.parent && widg->place.parent != kTopLevel) {
+    widg = widg->place.parent;
+    widg->place.oldest = std::min(widg->place.oldest, oldest);
+  }
+  if (!widg->place.parent) return;
+  if (oldest <= UnitStartOf(widg)) state.units_mixed = true;
+  if (oldest <= FileStartOf(widg)) state.files_mixed = true;
+}
+
 // Writes down that the widget is now in the parent's list, behind all that are.
 void Enter(Widg* parent, Widg* widg) {
   widg->place.parent = parent;
@@ -51,23 +64,31 @@ void Enter(Widg* parent, Widg* widg) {
   parent->place.last_child = widg;
   if (parent == kTopLevel) {
     NameIndexTopLevel(widg);
-    if (widg->place.oldest < widg->place.file_start) state.mixed = true;
+    NoteOldest(widg);
   } else {
     parent->place.oldest = std::min(parent->place.oldest, widg->place.oldest);
   }
 }
 
+// The widget may be from an earlier unit or file, and is met with a later one from now on.
+void MarkShared(Widg* widg) {
+  widg->place.shared = true;
+  state.units_mixed = state.files_mixed = true;
+}
+
 // Writes down that a widget that is in a list has come into the parent's list, too.
 void Share(Widg* parent, Widg* widg) {
   if (widg->place.parent == kTopLevel) {
-    (widg->place.claimed_by ? widg->place.shared = true : state.claims += 1);
+    if (!widg->place.claimed_by) {
+      ++state.claims;
+    } else {
+      MarkShared(widg);
+    }
     widg->place.claimed_by = parent;
     return;
   }
   if (widg->next) state.tangled = true;
-  // It may be from an earlier file, and is met with this one now.
-  state.mixed = true;
-  widg->place.shared = true;
+  MarkShared(widg);
 }
 
 // Writes down that the chain from `first` on is now in the parent's list, up to the first widget
@@ -82,12 +103,11 @@ void EnterChain(Widg* parent, Widg* first) {
     }
     if (widg->place.parent) {
       Share(parent, widg);
-      return;
+      break;
     }
     Enter(parent, widg);
   }
-  // Has something come below a window that was made before the window's file?
-  if (root->place.parent && parent->place.oldest < root->place.file_start) state.mixed = true;
+  NoteOldest(parent);
 }
 
 void Leave(Widg* widg) {
@@ -240,7 +260,9 @@ bool LinksAreTangled() { return state.tangled; }
 
 bool TopLevelIsClaimed() { return state.claims > 0; }
 
-bool FilesAreMixed() { return state.mixed; }
+bool UnitsAreMixed() { return state.units_mixed; }
+
+bool FilesAreMixed() { return state.files_mixed; }
 
 void ResetLinks() {
   state = LinkState();

@@ -83,7 +83,9 @@ bool LinksAreTangled();
 // Whether the top-level list, or an end of it, is also a list of children.
 bool TopLevelIsClaimed();
 
-// Whether widgets of an earlier file may stand below a top-level widget of a later one.
+// Whether widgets of an earlier unit, or file, may stand below a top-level widget of a later one;
+// see note [units] in widget/name_index.h.
+bool UnitsAreMixed();
 bool FilesAreMixed();
 
 // Starts with no links at all.

@@ -29,11 +29,17 @@ struct ByHash : tsl::robin_map<uint32_t, Mapped, HashAsItIs, std::equal_to<uint3
   ByHash() { this->max_load_factor(kFullTable); }
 };
 
+// How many widgets there were when it began, and when its file did.
+struct Unit {
+  uint32_t start = 0;
+  uint32_t file_start = 0;
+};
+
 struct Index {
-  Widg* newest = nullptr;   // of all widgets
-  uint32_t made = 0;        // how many there are
-  uint32_t file_start = 0;  // how many there were when the current file began
-  uint32_t indexed = 0;     // how many of them are in the table
+  Widg* newest = nullptr;              // of all widgets
+  uint32_t made = 0;                   // how many there are
+  std::vector<Unit> units = {Unit()};  // the last one is the current one
+  uint32_t indexed = 0;                // how many of them are in the table
   // By hash of their name, the newest widgets in front.
   ByHash<Widg*> by_hash;
   unsigned renamed = 0;
@@ -114,7 +120,7 @@ Widg* FirstNamed(Widg* widg, const char* name) {
 void NameIndexMade(Widg* widg) {
   widg->place.made = ++index_.made;
   widg->place.oldest = widg->place.made;
-  widg->place.file_start = index_.file_start;
+  widg->place.unit = static_cast<uint32_t>(index_.units.size() - 1);
   widg->place.made_before = index_.newest;
   index_.newest = widg;
 }
@@ -142,7 +148,13 @@ void NameIndexTopLevel(Widg* widg) {
   if (index_.top_level_indexed && widg->place.parent == kTopLevel) InsertTopLevel(widg);
 }
 
-void NameIndexNewFile() { index_.file_start = index_.made; }
+void NameIndexNewUnit() { index_.units.push_back({index_.made, index_.units.back().file_start}); }
+
+void NameIndexNewFile() { index_.units.push_back({index_.made, index_.made}); }
+
+uint32_t UnitStartOf(const Widg* widg) { return index_.units[widg->place.unit].start; }
+
+uint32_t FileStartOf(const Widg* widg) { return index_.units[widg->place.unit].file_start; }
 
 Widg* NewestOfName(const char* name) {
   CatchUp();

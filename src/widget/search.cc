@@ -155,6 +155,13 @@ static bool TreeStandsStill() {
 // So many widgets of one name are looked at before a snapshot is thought of.
 static constexpr int kFewNamesakes = 16;
 
+// A widget with this number or a lower one, where it is in the tree at all, stands to the left of
+// that root; see note [units] in widget/name_index.h.
+static uint32_t StartOfItsLike(const Widg* root) {
+  if (!UnitsAreMixed()) return UnitStartOf(root);
+  return FilesAreMixed() ? 0 : FileStartOf(root);
+}
+
 // Looks the name up in the index and stores what a search from top_widget would find. False when
 // the index cannot tell.
 static bool FindInIndex(const char* name, bool with_child, Widg** found) {
@@ -165,9 +172,8 @@ static bool FindInIndex(const char* name, bool with_child, Widg** found) {
   int looked_at = 0;
   for (Widg* widg = NewestOfName(name); widg; widg = OlderOfName(widg)) {
     if (++looked_at == kFewNamesakes + 1 && TreeStandsStill()) return false;
-    // Later files come first in search order, so nothing made before the file of what was found can
-    // be before that.
-    if (best_root && !FilesAreMixed() && widg->place.made <= best_root->place.file_start) break;
+    // Nothing made before the unit, or the file, of what was found can be before that.
+    if (best_root && widg->place.made <= StartOfItsLike(best_root)) break;
     if ((with_child && !widg->child) || widg->place.parent == kTopLevel) continue;
     Widg* root = nullptr;
     const Standing standing = StandingOf(widg, &root);

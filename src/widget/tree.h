@@ -33,18 +33,18 @@ struct Callback {
 // What the links say of a widget, written down so that a search need not go through the tree to
 // find out. Kept by widget/links.cc and widget/name_index.cc; nobody else writes to it.
 struct Place {
-  Widg* parent;         // whose list the widget is in; kTopLevel; null: in no list
-  Widg* last_child;     // of this widget's list, unless it has left that; null: not known
-  Widg* claimed_by;     // while top-level: who else has it in its list
-  Widg* same_hash;      // the next older widget in the name index whose name has the same hash
-  Widg* made_before;    // the widget made before this one
-  uint32_t order;       // rises along a list
-  uint32_t made;        // rises with each widget made
-  uint32_t file_start;  // what `made` was when the file of this widget began
-  uint32_t oldest;      // the least `made` below, itself included
-  uint32_t hash;        // of the GIL name; 0: not in the index yet
-  bool was_top_level;   // stands among the top-level widgets of the name index, now or from before
-  bool shared;          // in more than one list below the top level
+  Widg* parent;        // whose list the widget is in; kTopLevel; null: in no list
+  Widg* last_child;    // of this widget's list, unless it has left that; null: not known
+  Widg* claimed_by;    // while top-level: who else has it in its list
+  Widg* same_hash;     // the next older widget in the name index whose name has the same hash
+  Widg* made_before;   // the widget made before this one
+  uint32_t order;      // rises along a list
+  uint32_t made;       // rises with each widget made
+  uint32_t unit;       // in which the widget was made; see widget/name_index.h
+  uint32_t oldest;     // the least `made` below, itself included
+  uint32_t hash;       // of the GIL name; 0: not in the index yet
+  bool was_top_level;  // stands among the top-level widgets of the name index, now or from before
+  bool shared;         // in more than one list below the top level
 };
 
 struct Widg {

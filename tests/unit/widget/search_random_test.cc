@@ -32,6 +32,7 @@ class RandomProject {
     usezo = 1;
     zo25 = Chance(50);
     names_ = 2 + Number(6);
+    units_ = Chance(80);
   }
 
   void Convert() {
@@ -153,7 +154,8 @@ class RandomProject {
         result = Wrap(widg);
         break;
       case 2:
-        if (!widg->child) result = Gather(widg);
+        // A group of the top level is not linked there.
+        if (depth > 0 && !widg->child) result = Gather(widg);
         break;
       case 3:
         result = Replace(widg);
@@ -178,6 +180,7 @@ class RandomProject {
     const int menus = Number(3);
     const int objects = menus + 1 + Number(kMaxObjects);
     for (int i = 0; i < objects && !testing::Test::HasFailure(); ++i) {
+      if (units_) NameIndexNewUnit();
       const bool is_group = i > menus && Chance(20);
       Widg* widg = is_group ? New("XmBulletinBoard")
                             : ConvertObject(i < menus ? "XmUnknownMenu" : "XmForm", 0);
@@ -204,6 +207,7 @@ class RandomProject {
 
   std::mt19937 random_;
   int names_ = 0;
+  bool units_ = true;  // each top-level object is one, as in the converter; else each file
   std::vector<Widg*> widgets_;
 };
 
