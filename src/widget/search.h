@@ -34,8 +34,8 @@ Widg* FindWidgInTree(Widg* tree, const char* name);
 Widg* FindWidgWithChildInTree(Widg* tree, const char* name);
 Widg* FindParentOfWidgInTree(Widg* tree, const Widg* widg);
 
-// For tests and fuzzers: every search also goes through the tree, and the process aborts where the
-// two disagree.
+// For tests and fuzzers: searches also go through the tree (in a conversion of very many, the first
+// thousands and then some), and the process aborts where the two disagree.
 void CheckSearches(bool check);
 
 // A number that no widget's `visit` field holds: the mark of a new walk.
