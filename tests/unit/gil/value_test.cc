@@ -47,10 +47,10 @@ TEST_F(ValueTest, TextCountsUnlessItIsTwoQuotes) {
 }
 
 TEST_F(ValueTest, StepStaysAtTheEnd) {
-  Value* list = intValue(1);
-  list->next = intValue(2);
+  Value* list = tokenValue(T);
+  list->next = tokenValue(NIL);
   Step(&list);
-  EXPECT_EQ(list->ival, 2);
+  EXPECT_EQ(list->ival, NIL);
   Step(&list);
   EXPECT_EQ(list, nullptr);
   Step(&list);
@@ -58,9 +58,9 @@ TEST_F(ValueTest, StepStaysAtTheEnd) {
 }
 
 TEST_F(ValueTest, LastElementOfAList) {
-  Value* list = intValue(1);
+  Value* list = tokenValue(T);
   EXPECT_EQ(LastValue(list), list);
-  list->next = intValue(2);
+  list->next = tokenValue(NIL);
   EXPECT_EQ(LastValue(list), list->next);
   EXPECT_EQ(LastValue(nullptr), nullptr);
 }
