@@ -4,12 +4,10 @@
 // A widget's place names one list that it is in. For most widgets that is the whole truth. Two
 // kinds of sharing are told apart:
 //   - a top-level widget that somebody claimed (a menu, while its file is converted) counts as
-//   top-level,
-//     which is where a search meets it first; when it is dropped from there, its place is with the
-//     one who claimed it;
+//     top-level, which is where a search meets it first; when it is dropped from there, its place
+//     is with the one who claimed it;
 //   - a widget below the top level that comes into a second list is marked `shared`, and what a
-//   search
-//     finds through it must be looked for in the tree.
+//     search finds through it must be looked for in the tree.
 // All other sharing (a shared widget that is unlinked, or followed by others) tangles the links:
 // from then on every search goes through the tree.
 #include "widget/links.h"

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "osi/strings.h"
+#include "osi/text_map.h"
 #include "widget/links.h"
 #include "widget/name_index.h"
 #include "widget/tree.h"
@@ -53,8 +54,6 @@ Widg* FindParentOfWidgInTree(Widg* tree, const Widg* widg) {
   return FindFirst(tree, [widg](const Widg* parent) { return IsChild(parent, widg); });
 }
 
-static std::string_view TextOf(const char* name) { return name ? name : ""; }
-
 // What going through a tree once tells of all names and all children. Good until a link or a name
 // changes.
 struct Snapshot {
@@ -74,8 +73,8 @@ static void TakeSnapshot(Widg* tree) {
   snapshot.link_changes = LinkChanges();
   snapshot.name_changes = NameChanges();
   FindFirst(tree, [](Widg* widg) {
-    snapshot.named.emplace(TextOf(widg->gil_name), widg);
-    if (widg->child) snapshot.named_with_child.emplace(TextOf(widg->gil_name), widg);
+    snapshot.named.emplace(TextView(widg->gil_name), widg);
+    if (widg->child) snapshot.named_with_child.emplace(TextView(widg->gil_name), widg);
     // Where a child has a parent already, that parent's list holds all behind it, too.
     for (Widg* child = widg->child; child; child = child->next) {
       if (!snapshot.parents.emplace(child, widg).second) break;
@@ -213,7 +212,7 @@ static Widg* Checked(Widg* found, Search InTree) {
 Widg* FindWidg(Widg* tree, const char* name) {
   Widg* found = nullptr;
   if (tree != top_widget) return FindWidgInTree(tree, name);
-  if (!FindInIndex(name, false, &found)) found = LookUp(SnapshotOf(tree).named, TextOf(name));
+  if (!FindInIndex(name, false, &found)) found = LookUp(SnapshotOf(tree).named, TextView(name));
   return Checked(found, [=] { return FindWidgInTree(tree, name); });
 }
 
@@ -221,7 +220,7 @@ Widg* FindWidgWithChild(Widg* tree, const char* name) {
   Widg* found = nullptr;
   if (tree != top_widget) return FindWidgWithChildInTree(tree, name);
   if (!FindInIndex(name, true, &found)) {
-    found = LookUp(SnapshotOf(tree).named_with_child, TextOf(name));
+    found = LookUp(SnapshotOf(tree).named_with_child, TextView(name));
   }
   return Checked(found, [=] { return FindWidgWithChildInTree(tree, name); });
 }
