@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "gil/keywords.h"
 
-#include <array>
-#include <cstring>
+#include <bit>
 #include <string_view>
 
 #include "gil/tokens.h"
@@ -80,49 +79,58 @@ constexpr Keyword keywords[] = {
     {nullptr, 0}};
 // clang-format on
 
+constexpr KeywordPatterns keyword_patterns = [] {
+  KeywordPatterns patterns{};
+  static_assert(std::size(keywords) == patterns.size() + 1);
+  for (std::size_t row = 0; row < patterns.size(); ++row) {
+    const std::string_view text = keywords[row].text;
+    std::array<char, kKeywordRoom> bytes{};
+    for (std::size_t i = 0; i < text.size(); ++i) bytes[i] = text[i];  // ends what is too long
+    patterns[row] = {std::bit_cast<KeywordWords>(bytes), keywords[row].token,
+                     static_cast<int32_t>(text.size())};
+  }
+  return patterns;
+}();
+
+constexpr KeywordMasks keyword_masks = [] {
+  KeywordMasks masks{};
+  std::array<unsigned char, kKeywordRoom> bytes{};
+  for (std::size_t length = 0; length < bytes.size(); ++length) {
+    masks[length] = std::bit_cast<KeywordWords>(bytes);
+    bytes[length] = 0xff;
+  }
+  masks[bytes.size()] = std::bit_cast<KeywordWords>(bytes);
+  return masks;
+}();
+
 // Open addressing over the rows of the table, built by the compiler. A slot holds the number of a
 // row plus one, 0 means free. A quarter full, so that most words are found at once.
-static constexpr std::size_t kSlots = 1024;
+static constexpr int kSlotBits = 10;
+static constexpr std::size_t kSlots = 1U << kSlotBits;
 
-// Length, ends and middle tell nearly all keywords apart.
-static constexpr std::size_t HashOf(std::string_view text) {
-  const std::size_t length = text.size();
-  const auto At = [text](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-  return (length * 37 + At(0) * 5 + At(length - 1) * 131 + At(length / 2) * 17 +
-          At(length * 3 / 4) * 401) %
-         kSlots;
+static constexpr std::size_t HashOf(const KeywordWords& words) {
+  uint64_t hash = 0;
+  for (uint64_t word : words) hash = (hash ^ word) * 0x9e3779b97f4a7c15;
+  return hash >> (64 - kSlotBits);
 }
 
-static constexpr std::array<uint8_t, kSlots> BuildSlots() {
+static constexpr std::array<uint8_t, kSlots> kSlotTable = [] {
   static_assert(std::size(keywords) <= 256);
   std::array<uint8_t, kSlots> slots{};
-  for (std::size_t row = 0; keywords[row].text; ++row) {
-    std::size_t slot = HashOf(keywords[row].text);
+  for (std::size_t row = 0; row < keyword_patterns.size(); ++row) {
+    std::size_t slot = HashOf(keyword_patterns[row].words);
     while (slots[slot] != 0) slot = (slot + 1) % kSlots;
     slots[slot] = static_cast<uint8_t>(row + 1);
   }
   return slots;
-}
-
-static constexpr std::array<uint8_t, kSlots> kSlotTable = BuildSlots();
-
-static constexpr bool NoneIsLonger(std::size_t length) {
-  for (const Keyword& keyword : keywords) {
-    if (static_cast<std::size_t>(keyword.length) > length) return false;
-  }
-  return true;
-}
-static_assert(NoneIsLonger(kLongestKeyword));
+}();
 
 const Keyword* FindKeyword(const char* text, std::size_t length) {
-  if (length == 0) return nullptr;
-  for (std::size_t slot = HashOf({text, length}); kSlotTable[slot] != 0;
-       slot = (slot + 1) % kSlots) {
-    const Keyword& keyword = keywords[kSlotTable[slot] - 1U];
-    if (static_cast<std::size_t>(keyword.length) == length &&
-        std::memcmp(text, keyword.text, length) == 0) {
-      return &keyword;
-    }
+  if (length == 0 || length > kKeywordRoom) return nullptr;
+  const KeywordWords words = KeywordWordsAt(text, length);
+  for (std::size_t slot = HashOf(words); kSlotTable[slot] != 0; slot = (slot + 1) % kSlots) {
+    const std::size_t row = kSlotTable[slot] - 1U;
+    if (keyword_patterns[row].words == words) return &keywords[row];
   }
   return nullptr;
 }

@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "gil/scanner.h"
 
+#include <unistd.h>
+
 #include <algorithm>
 #include <array>
+#include <bit>
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <utility>
 
 #include "gil/keywords.h"
 #include "gil/tokens.h"
@@ -27,30 +32,29 @@ constexpr std::size_t kBufferSize = kIoBufferSize;
 static_assert(kBufferSize > 2 * kLookAhead);
 
 // A window on standard input. A NUL stands behind the last byte read, so that loops over a class of
-// characters without NUL need not test for the end.
-constexpr char kBlanks[] = "        ";
-
-// Room behind the NUL for a look at a run of blanks or a keyword.
-static_assert(kIoBufferMargin > kLongestKeyword && kIoBufferMargin > sizeof kBlanks);
-char* const buffer = io_buffer;
+// characters without NUL need not test for the end. Behind it is room for a look at a word of blanks
+// or a keyword.
+static_assert(kIoBufferMargin > kKeywordRoom && kIoBufferMargin > sizeof(uint64_t));
+constexpr char* buffer = io_buffer;
 
 struct Input {
-  const char* cursor = buffer;
-  const char* end = buffer;
+  const char* cursor = "";
+  const char* end = cursor;
+  // From here on a token may reach beyond what is in the buffer; at the end of the input the end.
+  const char* refill_at = cursor;
   bool at_end = false;
   // Behind the last "-" of a run that no digit follows. Known once per run, so that a file of
   // dashes is not searched again from each of them.
   const char* bare_dashes_end = nullptr;
 };
 
-Input input;
+constinit Input input;
 
 enum CharClass : uint8_t {
   kLetter = 1,      // A-Z a-z
   kDigit = 2,       // 0-9
   kIdentifier = 4,  // what may follow the first letter of an identifier
   kKeyword = 8,     // what may follow the colon of a keyword
-  kStringEnd = 16,  // what a scan through a string must look at: quotes, backslashes, newlines, NUL
 };
 
 constexpr std::array<uint8_t, 256> BuildClasses() {
@@ -61,7 +65,6 @@ constexpr std::array<uint8_t, 256> BuildClasses() {
   classes['_'] = kIdentifier | kKeyword;
   classes['.'] = kIdentifier;
   classes['-'] = kKeyword;
-  for (unsigned char c : {'"', '\\', '\n', '\0'}) classes[c] = kStringEnd;
   return classes;
 }
 
@@ -77,13 +80,17 @@ void Refill() {
   input.cursor = buffer;
   char* end = buffer + left;
   while (end < buffer + kBufferSize && !input.at_end) {
-    const auto room = static_cast<std::size_t>(buffer + kBufferSize - end);
-    const std::size_t got = std::fread(end, 1, room, stdin);
-    input.at_end = got < room;
-    end += got;
+    const ssize_t got =
+        read(fileno(stdin), end, static_cast<std::size_t>(buffer + kBufferSize - end));
+    if (got > 0) {
+      end += got;
+    } else if (got == 0 || errno != EINTR) {
+      input.at_end = true;
+    }
   }
   *end = '\0';
   input.end = end;
+  input.refill_at = input.at_end ? end : end - kLookAhead + 1;
 }
 
 [[noreturn]] void TokenTooLong() {
@@ -99,9 +106,11 @@ void Accept(const char* token_end) {
   input.cursor = token_end;
 }
 
-void AcceptIllegalCharacter() {
+// 0, as from all scans of what the parser does not see.
+[[gnu::noinline]] int32_t ScanIllegalCharacter() {
   Accept(input.cursor + 1);
   std::fprintf(stderr, "Illegal character: %c\n", *yytext);
+  return 0;
 }
 
 // The end of the line that the cursor stands in, or a place that makes the token too long.
@@ -118,7 +127,7 @@ const char* SkipClass(const char* from, uint8_t char_class) {
 }
 
 // A ";" starts the version header or a comment, both up to the end of the line. 0 for a comment.
-int32_t ScanSemicolon() {
+[[gnu::noinline]] int32_t ScanSemicolon() {
   Accept(LineEnd());
   if (yyleng >= 6 && std::memcmp(yytext, ";GIL-2", 6) == 0) {
     SetVersion(2);  // ends the run
@@ -128,9 +137,9 @@ int32_t ScanSemicolon() {
   return 0;
 }
 
-// The same kind, number and shared text as the value before, as a Value of its own: the keyword
-// string-value delivers a string token that no text of the file backs.
-Value* RepeatedValue() {
+// The keyword string-value delivers a string token that no text of the file backs: the same kind,
+// number and shared text as the value before, as a Value of its own.
+[[gnu::noinline]] int32_t RepeatValue() {
   texts_are_repeated = true;
   const Value* previous = yylval;
   Value* value = createValue(previous ? previous->kind : static_cast<int32_t>(kStringValue));
@@ -138,46 +147,55 @@ Value* RepeatedValue() {
     value->ival = previous->ival;
     value->sval = previous->sval;
   }
-  return value;
+  yylval = value;
+  return STRING_VALUE;
 }
 
-// By keyword, the one that came behind it the last time. The editor writes an object's attributes
-// always in the same order, so it mostly comes again.
-std::array<const Keyword*, kLastToken - kFirstToken + 1> followers;
+// By keyword, the rows of the two that came behind it last. The editor writes an object's attributes
+// always in the same order, so one of them mostly comes again.
+using Followers = std::array<uint8_t, 2>;
+std::array<Followers, kLastToken - kFirstToken + 1> followers;
+Followers* expected = followers.data();  // behind the last keyword
 
-// Whether the keyword is what stands behind the colon at the cursor.
-bool IsNext(const Keyword* keyword) {
+// Makes the keyword, which stands behind the colon at the cursor, the current token.
+int32_t AcceptKeyword(const KeywordPattern& keyword) {
+  yytext = input.cursor;
+  yyleng = 1 + static_cast<std::size_t>(keyword.length);
+  input.cursor += yyleng;
+  expected = &followers[static_cast<std::size_t>(keyword.token - kFirstToken)];
+  return keyword.token == STRING_VALUE ? RepeatValue() : keyword.token;
+}
+
+bool KeywordFollows(const KeywordPattern& keyword) {
   const char* text = input.cursor + 1;
-  return std::memcmp(text, keyword->text, static_cast<std::size_t>(keyword->length)) == 0 &&
-         !Is(text[keyword->length], kKeyword);
+  return StandsAt(keyword, text) && !Is(text[keyword.length], kKeyword);
 }
 
-// 0 for a keyword that the table lacks and for a colon that starts none.
-int32_t ScanColon() {
-  static int32_t previous = kFirstToken;
-  const Keyword*& expected = followers[static_cast<std::size_t>(previous - kFirstToken)];
-  if (expected && IsNext(expected)) {
-    Accept(input.cursor + 1 + expected->length);
-  } else {
-    const char* token_end = SkipClass(input.cursor + 1, kKeyword);
-    if (token_end == input.cursor + 1) {
-      AcceptIllegalCharacter();
-      return 0;
-    }
-    Accept(token_end);
-    const Keyword* keyword = FindKeyword(yytext + 1, yyleng - 1);
-    if (!keyword) {
-      yyerror("Illegal keyword");
-      return 0;
-    }
-    expected = keyword;
+// A colon that the keyword expected first does not follow. 0 for a keyword that the table lacks and for a
+// colon that starts none.
+[[gnu::noinline]] int32_t ScanOtherKeyword() {
+  auto& [first, second] = *expected;
+  std::swap(first, second);
+  if (KeywordFollows(keyword_patterns[first])) return AcceptKeyword(keyword_patterns[first]);
+  const char* text = input.cursor + 1;
+  const char* text_end = SkipClass(text, kKeyword);
+  if (text_end == text) return ScanIllegalCharacter();
+  const Keyword* keyword = FindKeyword(text, static_cast<std::size_t>(text_end - text));
+  if (!keyword) {
+    Accept(text_end);
+    yyerror("Illegal keyword");
+    return 0;
   }
-  previous = expected->token;
-  if (previous == STRING_VALUE) yylval = RepeatedValue();
-  return previous;
+  first = static_cast<uint8_t>(keyword - keywords);
+  return AcceptKeyword(keyword_patterns[first]);
 }
 
-int32_t ScanIdentifier() {
+int32_t ScanColon() {
+  const KeywordPattern& keyword = keyword_patterns[expected->front()];
+  return KeywordFollows(keyword) ? AcceptKeyword(keyword) : ScanOtherKeyword();
+}
+
+[[gnu::noinline]] int32_t ScanIdentifier() {
   Accept(SkipClass(input.cursor, kIdentifier));
   if (yyleng == 1 && *yytext == 't') return T;
   if (yyleng == 3 && std::memcmp(yytext, "nil", 3) == 0) return NIL;
@@ -185,57 +203,64 @@ int32_t ScanIdentifier() {
   return IDENTIFIER;
 }
 
-// Converts as atoi does: a second "-" ends the number, which is then 0.
-int32_t NumberOfToken() {
-  if (yyleng <= 9) {
-    const bool negative = *yytext == '-';
-    int32_t number = 0;
-    for (const char* c = yytext + negative; c < yytext + yyleng; ++c) {
-      if (*c == '-') return 0;
-      number = number * 10 + (*c - '0');
-    }
-    return negative ? -number : number;
-  }
-  return static_cast<int32_t>(std::strtol(yytext, nullptr, 10));
-}
-
-// 0 for dashes that no digit follows: the first of them is an illegal character.
-int32_t ScanNumber() {
+// A number that begins with a dash or is long. 0 for dashes that no digit follows: the first of them
+// is an illegal character.
+[[gnu::noinline]] int32_t ScanOtherNumber() {
   const char* digits = input.cursor;
-  if (input.cursor < input.bare_dashes_end) {
-    AcceptIllegalCharacter();
-    return 0;
-  }
+  if (input.cursor < input.bare_dashes_end) return ScanIllegalCharacter();
   while (*digits == '-') ++digits;
   if (static_cast<std::size_t>(digits - input.cursor) > kTokenLimit) TokenTooLong();
   if (!Is(*digits, kDigit)) {
     input.bare_dashes_end = digits;
-    AcceptIllegalCharacter();
-    return 0;
+    return ScanIllegalCharacter();
   }
   Accept(SkipClass(digits, kDigit));
-  yylval = intValue(NumberOfToken());
+  // Converts as atoi does: a second "-" ends the number, which is then 0.
+  yylval = intValue(static_cast<int32_t>(std::strtol(yytext, nullptr, 10)));
   return INTEGER_VALUE;
 }
 
-// 0 for a quote that no other closes: it is an illegal character, and what follows is scanned anew.
-int32_t ScanString() {
-  const char* limit = std::min(input.end, input.cursor + kLookAhead);
-  int32_t lines = 0;
+[[gnu::noinline]] int32_t ScanNumber() {
+  constexpr std::ptrdiff_t kSafeDigits = 9;
+  const char* c = input.cursor;
+  int32_t number = 0;
+  for (; Is(*c, kDigit) && c - input.cursor < kSafeDigits; ++c) number = number * 10 + (*c - '0');
+  if (c == input.cursor || Is(*c, kDigit)) return ScanOtherNumber();
+  Accept(c);
+  yylval = intValue(number);
+  return INTEGER_VALUE;
+}
+
+// The first `wanted` from `from` on; `limit` when none stands before that.
+const char* FindBefore(const char* limit, const char* from, char wanted) {
+  if (from >= limit) return limit;
+  const void* found = std::memchr(from, wanted, static_cast<std::size_t>(limit - from));
+  return found ? static_cast<const char*>(found) : limit;
+}
+
+// The quote that ends the string at the cursor; `limit` when none stands before that.
+const char* ClosingQuote(const char* limit) {
   const char* c = input.cursor + 1;
-  for (;; ++c) {
-    while (!Is(*c, kStringEnd)) ++c;
-    if (c >= limit || *c == '"') break;
-    lines += *c == '\n';
-    if (*c == '\\' && c + 1 < limit) lines += *++c == '\n';
+  const char* quote = FindBefore(limit, c, '"');
+  while (quote != limit) {
+    const char* backslash = FindBefore(quote, c, '\\');
+    if (backslash == quote) break;
+    c = backslash + 2;
+    if (c > quote) quote = FindBefore(limit, c, '"');
   }
-  if (c >= limit) {
+  return quote;
+}
+
+// 0 for a quote that no other closes: it is an illegal character, and what follows is scanned anew.
+[[gnu::noinline]] int32_t ScanString() {
+  const char* limit = std::min(input.end, input.cursor + kLookAhead);
+  const char* quote = ClosingQuote(limit);
+  if (quote == limit) {
     if (static_cast<std::size_t>(input.end - input.cursor) > kTokenLimit + 1) TokenTooLong();
-    AcceptIllegalCharacter();
-    return 0;
+    return ScanIllegalCharacter();
   }
-  Accept(c + 1);
-  yylineno += lines;
+  Accept(quote + 1);
+  for (const char* c = yytext; (c = FindBefore(quote, c, '\n')) != quote; ++c) ++yylineno;
   yylval = stringValue(1, yytext, yyleng);
   return STRING_VALUE;
 }
@@ -246,8 +271,9 @@ int32_t AcceptParenthesis(int32_t token) {
 }
 
 // One token, or 0 for whatever the parser does not see.
-int32_t ScanOne() {
+[[gnu::noinline]] int32_t ScanOne() {
   const char first = *input.cursor;
+  if (first == ':') return ScanColon();
   switch (first) {
     case '(':
       return AcceptParenthesis(LPAREN);
@@ -255,19 +281,27 @@ int32_t ScanOne() {
       return AcceptParenthesis(RPAREN);
     case ';':
       return ScanSemicolon();
-    case ':':
-      return ScanColon();
     case '"':
       return ScanString();
     default:
       if (Is(first, kLetter)) return ScanIdentifier();
       if (first == '-' || Is(first, kDigit)) return ScanNumber();
-      AcceptIllegalCharacter();
-      return 0;
+      return ScanIllegalCharacter();
   }
 }
 
 }  // namespace
+
+// How many blanks stand at `text`, up to a word of them.
+static std::size_t LeadingBlanks(const char* text) {
+  constexpr uint64_t kBlanks = 0x2020202020202020;
+  uint64_t word = 0;
+  std::memcpy(&word, text, sizeof word);
+  word ^= kBlanks;
+  const int zeros =
+      std::endian::native == std::endian::little ? std::countr_zero(word) : std::countl_zero(word);
+  return static_cast<std::size_t>(zeros) / 8;
+}
 
 // Blanks, tabs and newlines, of which there are more than of anything else.
 static void SkipBlanks() {
@@ -280,8 +314,11 @@ static void SkipBlanks() {
       ++c;
     } else if (*c == ' ') {
       // Values are aligned in columns, so blanks come in runs.
-      while (std::memcmp(c, kBlanks, sizeof kBlanks - 1) == 0) c += sizeof kBlanks - 1;
-      while (*c == ' ') ++c;
+      std::size_t blanks = 0;
+      do {
+        blanks = LeadingBlanks(c);
+        c += blanks;
+      } while (blanks == sizeof(uint64_t));
     } else {
       break;
     }
@@ -289,14 +326,19 @@ static void SkipBlanks() {
   input.cursor = c;
 }
 
+// Makes sure that the next token is in the buffer as a whole; false at the end of the input.
+[[gnu::noinline]] static bool FetchToken() {
+  while (input.cursor >= input.refill_at && !input.at_end) {
+    Refill();
+    SkipBlanks();
+  }
+  return input.cursor < input.end;
+}
+
 int32_t yylex() {
   for (;;) {
     SkipBlanks();
-    while (static_cast<std::size_t>(input.end - input.cursor) < kLookAhead && !input.at_end) {
-      Refill();
-      SkipBlanks();
-    }
-    if (input.cursor == input.end) {
+    if (input.cursor >= input.refill_at && !FetchToken()) {
       yytext = "";
       yyleng = 0;
       return END_OF_INPUT;
@@ -306,11 +348,7 @@ int32_t yylex() {
 }
 
 void yyrestart() {
-  input.cursor = input.end = buffer;
-  buffer[0] = '\0';
-  input.at_end = false;
-  input.bare_dashes_end = nullptr;
-  std::clearerr(stdin);
+  input = Input();
 }
 
 void yyerror(const char* message) {

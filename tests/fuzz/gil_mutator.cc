@@ -313,8 +313,11 @@ void Mutator::Reaction() {
 
 // The form that the attribute's value should have; kNoForm for an unknown keyword.
 static ValueForm FormOf(const OutlineAttribute& attribute) {
-  const std::string& word = attribute.keyword;
-  const Keyword* keyword = word.empty() ? nullptr : FindKeyword(word.data() + 1, word.size() - 1);
+  std::string word = attribute.keyword;
+  if (word.empty()) return kNoForm;
+  const std::size_t length = word.size() - 1;
+  word.resize(word.size() + kKeywordRoom);
+  const Keyword* keyword = FindKeyword(word.data() + 1, length);
   return keyword ? AttributeForm(keyword->token) : kNoForm;
 }
 

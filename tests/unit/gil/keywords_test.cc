@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <cctype>
 #include <cstring>
 #include <map>
@@ -145,7 +147,10 @@ TEST(KeywordsTest, LackOnlyWhatTheScannerMakesOtherwise) {
 
 // The token of the keyword with the first `length` bytes of `text`, or 0.
 static int32_t TokenOf(const char* text, std::size_t length) {
-  const Keyword* keyword = FindKeyword(text, length);
+  std::array<char, kKeywordRoom> room{};
+  EXPECT_LE(length, room.size());
+  std::memcpy(room.data(), text, std::min(length, room.size()));
+  const Keyword* keyword = FindKeyword(room.data(), length);
   return keyword ? keyword->token : 0;
 }
 
@@ -153,7 +158,6 @@ TEST(KeywordsTest, AreFoundByTextAndByToken) {
   for (const Keyword* keyword = keywords; keyword->text; ++keyword) {
     EXPECT_EQ(TokenOf(keyword->text, std::strlen(keyword->text)), keyword->token);
     EXPECT_STREQ(KeywordText(keyword->token), keyword->text);
-    EXPECT_EQ(static_cast<std::size_t>(keyword->length), std::strlen(keyword->text));
   }
 }
 
