@@ -15,6 +15,7 @@
 void ResetSession() {
   ResetFlags();
   ResetScanner();
+  ResetValues();
   ResetParser();
   ResetVersion();
   ResetTree();

@@ -17,6 +17,9 @@
   OsiExit(-1);
 }
 
+// By their last bits, the numbers last asked for: mostly one of them comes again.
+static std::array<Value*, 256> last_numbers;
+
 Value* createValue(int32_t kind) {
   auto* value = ArenaNew<Value>();
   if (!value) OutOfMemory("Out of memory allocating a Value");
@@ -39,12 +42,11 @@ Value* loneTokenValue(int32_t token) {
 }
 
 Value* intValue(int32_t number) {
-  // Most positions and sizes. A larger table would cost a small file more pages than it saves.
-  static std::array<Value, 512> small_numbers;
-  const auto index = static_cast<uint32_t>(number);
-  Value* value = index < small_numbers.size() ? &small_numbers[index] : createValue(kIntegerValue);
-  value->kind = kIntegerValue;
-  value->ival = number;
+  Value*& value = last_numbers[static_cast<uint32_t>(number) % last_numbers.size()];
+  if (!value || value->ival != number) {
+    value = createValue(kIntegerValue);
+    value->ival = number;
+  }
   return value;
 }
 
@@ -94,6 +96,8 @@ Obj* makeObj(int32_t type, Attr* attrs, Action* actions) {
   obj->owner = AttrText(attrs, OWNER);
   return obj;
 }
+
+void ResetValues() { last_numbers.fill(nullptr); }
 
 int GetAttrValue(Obj* obj, int32_t name, Value** valueOut, int remove) {
   for (Attr** link = &obj->attrs; *link; link = &(*link)->next) {

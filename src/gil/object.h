@@ -60,9 +60,12 @@ Value* createValue(int32_t kind);
 Value* tokenValue(int32_t token);
 
 // Values that stand alone, not in a list: half of a file's. Nobody writes to them, so one record
-// serves all attributes that have the same token, or the same small number.
+// serves all attributes that have the same token, and many that have the same number.
 Value* loneTokenValue(int32_t token);
 Value* intValue(int32_t number);
+
+// Forgets the numbers that may be shared, before the arena that holds them is emptied.
+void ResetValues();
 
 // A string Value with a private copy of the first `length` bytes of `text`, which end at the first
 // NUL among them. `kind` tells the scanner's identifiers (3) from its strings (1) and is

@@ -32,7 +32,8 @@ struct ArenaState {
   // request takes the long way.
   ArenaFree waiting = {nullptr, nullptr};
   long successes_left = -1;
-  std::size_t chunk_size = kFirstChunkSize;  // of the next chunk
+  bool first_chunk_taken = false;
+  std::size_t chunk_size = kFirstChunkSize;  // of the next one from the heap
 };
 
 ArenaState state;
@@ -70,12 +71,18 @@ bool CountRequest() {
 // A block of a chunk of its own.
 char* AllocAlone(std::size_t size) { return CountRequest() ? NewChunk(size) : nullptr; }
 
+// Where an ordinary file fits as a whole: part of the program, so that it need not be asked for.
+alignas(void*) char first_chunk[kFirstChunkSize];
+
 // Makes a new chunk the current one. What was left of the former one is given up: less than the
 // block that did not fit.
 bool StartChunk() {
   std::size_t room = state.chunk_size;
   char* start = nullptr;
-  if (state.chunk_size < kHugePageSize) {
+  if (!state.first_chunk_taken) {
+    state.first_chunk_taken = true;
+    start = first_chunk;
+  } else if (state.chunk_size < kHugePageSize) {
     start = NewChunk(room);
     state.chunk_size *= 4;
   } else {

@@ -6,7 +6,10 @@
 
 #include "osi/memory.h"
 
-static bool IsSpace(char c) { return std::isspace(static_cast<unsigned char>(c)) != 0; }
+static bool IsSpace(char c) {
+  if (c > ' ' && c <= '~') return false;  // in no locale
+  return std::isspace(static_cast<unsigned char>(c)) != 0;
+}
 
 static bool IsNewline(char c) { return c == '\n'; }
 

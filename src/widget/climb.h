@@ -5,6 +5,8 @@
 #define PANDREL_WIDGET_CLIMB_H
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
 #include <vector>
 
 struct Widg;
@@ -13,13 +15,22 @@ class Climb {
  public:
   // Whether this climb has not stood on the widget before; remembers it.
   bool IsNew(const Widg* widg) {
-    if (std::find(seen_.begin(), seen_.end(), widg) != seen_.end()) return false;
-    seen_.push_back(widg);
+    const auto first_end = first_.begin() + first_count_;
+    if (std::find(first_.begin(), first_end, widg) != first_end) return false;
+    if (first_end != first_.end()) {
+      first_[first_count_++] = widg;
+      return true;
+    }
+    if (std::find(others_.begin(), others_.end(), widg) != others_.end()) return false;
+    others_.push_back(widg);
     return true;
   }
 
  private:
-  std::vector<const Widg*> seen_;
+  // Climbs are short and very many, so the ordinary one takes no memory from the heap.
+  std::array<const Widg*, 4> first_;
+  std::size_t first_count_ = 0;
+  std::vector<const Widg*> others_;
 };
 
 #endif
