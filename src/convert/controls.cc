@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "convert/controls.h"
 
-#include <cstdlib>
-
 #include "convert/object_label.h"
 #include "convert/std_attributes.h"
 #include "driver/options/flags.h"
 #include "gil/object.h"
 #include "gil/tokens.h"
 #include "gil/value.h"
+#include "uil/text/strings.h"
 #include "widget/callbacks.h"
 #include "widget/tree.h"
 
@@ -56,7 +55,7 @@ Widg* SpecProcTextField(Obj* obj, Widg* widg) {
   }
   char* columns = nullptr;
   if (GetAttrValueString(obj, VALUE_LENGTH, &columns, 0)) {
-    const bool positive = static_cast<int32_t>(std::strtol(columns, nullptr, 10)) > 0;
+    const bool positive = StringToInt(columns) > 0;
     AddResource(widg, "XmNcolumns", positive ? columns : "1");
   }
   return SpecProcObjLabel(obj, widg, group_labels);

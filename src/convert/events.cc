@@ -18,18 +18,18 @@ enum Answer {
 
 struct EventRow {
   const char* event;
-  const char* class_name;  // null: any other
+  FixedText class_name;  // empty: any other
   Answer answer;
   const char* callback_name;
 };
 
 // In the order of the look-up. An event that is not listed has no callback, silently.
 static const EventRow kEvents[] = {
-    {"AnyEvent", nullptr, kNoMapping, nullptr},
-    {"Enter", nullptr, kNoMapping, nullptr},
-    {"Exit", nullptr, kNoMapping, nullptr},
-    {"Adjust", nullptr, kNoMapping, nullptr},
-    {"Menu", nullptr, kNoMapping, nullptr},
+    {"AnyEvent", "", kNoMapping, nullptr},
+    {"Enter", "", kNoMapping, nullptr},
+    {"Exit", "", kNoMapping, nullptr},
+    {"Adjust", "", kNoMapping, nullptr},
+    {"Menu", "", kNoMapping, nullptr},
     {"Notify", "XmPushButton", kCallback, "XmNactivateCallback"},
     {"Notify", "XmToggleButton", kUseValueChanged, nullptr},
     {"Notify", "XmText", kCallback, "XmNactivateCallback"},
@@ -38,18 +38,18 @@ static const EventRow kEvents[] = {
     {"Notify", "XmList", kBySelectionPolicy, nullptr},
     {"Notify", "XmPulldownMenu", kUseItems, nullptr},
     {"Notify", "XmPopupMenu", kUseItems, nullptr},
-    {"Notify", nullptr, kSilent, nullptr},
+    {"Notify", "", kSilent, nullptr},
     {"Resize", "XmDrawingArea", kCallback, "XmNresizeCallback"},
-    {"Resize", nullptr, kNoMapping, nullptr},
+    {"Resize", "", kNoMapping, nullptr},
     {"Select", "XmDrawingArea", kCallback, "XmNinputCallback"},
-    {"Select", nullptr, kNoMapping, nullptr},
+    {"Select", "", kNoMapping, nullptr},
     {"Repaint", "XmDrawingArea", kCallback, "XmNexposeCallback"},
-    {"Repaint", nullptr, kSilent, nullptr},
+    {"Repaint", "", kSilent, nullptr},
     {"KeyPress", "XmDrawingArea", kCallback, "XmNinputCallback"},
     {"KeyPress", "XmText", kCallback, "XmNvalueChangedCallback"},
     {"KeyPress", "XmTextField", kCallback, "XmNvalueChangedCallback"},
-    {"KeyPress", nullptr, kNoMapping, nullptr},
-    {"DoubleClick", nullptr, kNoMapping, nullptr},
+    {"KeyPress", "", kNoMapping, nullptr},
+    {"DoubleClick", "", kNoMapping, nullptr},
 };
 
 // note [the policy is read under another name]
@@ -89,7 +89,7 @@ static void Note(Answer answer, const Widg* widg, const char* when) {
 
 static const EventRow* FindRow(const Widg* widg, const char* when) {
   for (const EventRow& row : kEvents) {
-    if (OsiStrcmp(when, row.event) == 0 && (!row.class_name || IsClass(widg, row.class_name))) {
+    if (OsiStrcmp(when, row.event) == 0 && (row.class_name.empty() || IsClass(widg, row.class_name))) {
       return &row;
     }
   }

@@ -49,7 +49,7 @@ static void StepItems(ItemLists* lists) {
 
 // The menu as a user of the class `wanted` gets it: the widget itself, or a copy when one of the
 // class `other` has claimed it.
-static Widg* ClaimMenu(Widg* menu, const char* wanted, const char* other) {
+static Widg* ClaimMenu(Widg* menu, FixedText wanted, FixedText other) {
   if (IsClass(menu, other)) menu = CopyWidgTree(menu);
   menu->class_name = wanted;
   return menu;
@@ -75,7 +75,7 @@ static Widg* MakeItem(const Widg* menu, int32_t menu_type, const ItemLists& item
     std::fprintf(stderr, "***Unknown menu type: %d\n", static_cast<int>(menu_type));
     return nullptr;
   }
-  Widg* widg = MakeNamedAfter(toggles ? "XmToggleButton" : "XmPushButton", menu, "choice");
+  Widg* widg = MakeNamedAfter(toggles ? FixedText("XmToggleButton") : FixedText("XmPushButton"), menu, "choice");
   HandleWidgLabelAndType(widg, item.label, item.label_type);
   if (ValueToken(item.state, ACTIVE) == INACTIVE) AddResource(widg, "XmNsensitive", "false");
   if (toggles && ValueToken(item.selected, NIL) == T) AddResource(widg, "XmNset", "true");

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "convert/object_label.h"
 
-#include <cstdlib>
-
 #include "convert/companions.h"
 #include "gil/object.h"
 #include "gil/tokens.h"
@@ -19,7 +17,7 @@ static constexpr int32_t kVerticalSpacing = 3;
 // The width of a vertical scale: its slider width is its height.
 static constexpr int32_t kVerticalScaleWidth = 20;
 
-static Widg* MakeCompanion(const char* class_name, const Widg* widg, const char* suffix) {
+static Widg* MakeCompanion(FixedText class_name, const Widg* widg, const char* suffix) {
   return MakeWidg(class_name, MergeStrings(widg->name, suffix));
 }
 
@@ -39,7 +37,7 @@ static Widg* WrapInRowColumn(Obj* obj, Widg* label, Widg* widg) {
   return rc;
 }
 
-static void SetFromAttr(Obj* obj, int32_t name, Widg* widg, const char* resource) {
+static void SetFromAttr(Obj* obj, int32_t name, Widg* widg, FixedText resource) {
   char* text = nullptr;
   if (GetAttrValueString(obj, name, &text, 0)) AddResource(widg, resource, text);
 }
@@ -59,7 +57,7 @@ static void SetControlWidth(Obj* obj, Widg* widg) {
   int32_t width = ValueToken(value, 0);
   char* value_x = nullptr;
   if (obj->type != SCROLLING_LIST && GetAttrValueString(obj, VALUE_X, &value_x, 0)) {
-    width = WrapSub(width, static_cast<int32_t>(std::strtol(value_x, nullptr, 10)));
+    width = WrapSub(width, StringToInt(value_x));
   }
   Value* slider_width = nullptr;
   Value* orientation = nullptr;
@@ -76,7 +74,7 @@ static void SetControlWidth(Obj* obj, Widg* widg) {
   AddResource(widg, "XmNwidth", IntToString(width));
 }
 
-static void CopyIfSet(const Widg* from, const char* name, Widg* to) {
+static void CopyIfSet(const Widg* from, FixedText name, Widg* to) {
   if (HasResource(from, name)) AddResource(to, name, GetResourceValue(from, name));
 }
 

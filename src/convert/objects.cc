@@ -24,7 +24,7 @@
 
 struct ClassRow {
   int32_t type;
-  const char* class_name;
+  FixedText class_name;
 };
 
 // Types that are not listed, such as terminals and drop targets, have no widget.
@@ -45,7 +45,7 @@ static const ClassRow kClasses[] = {
     {GROUP, "XmBulletinBoard"},
 };
 
-const char* GilObjToMotifClassName(Obj* obj) {
+FixedText GilObjToMotifClassName(Obj* obj) {
   Value* menu = nullptr;
   if (obj->type == BUTTON && GetAttrValue(obj, MENU, &menu, 0) && IsStringValue(menu)) {
     return "XmCascadeButton";

@@ -13,7 +13,7 @@
 
 // How much more room than its OPEN LOOK counterpart a control takes.
 struct AllowanceRow {
-  const char* class_name;
+  FixedText class_name;
   int32_t dx, dy;
 };
 

@@ -18,7 +18,7 @@ namespace {
 constexpr std::size_t kPieceSize = kIoBufferSize;
 
 std::FILE* output = nullptr;
-char* const piece = io_buffer;
+constexpr char* piece = io_buffer;
 std::size_t piece_length = 0;
 
 void Flush() {
@@ -26,14 +26,20 @@ void Flush() {
   piece_length = 0;
 }
 
-void Put(std::string_view text) {
-  if (text.size() > kPieceSize - piece_length) {
-    Flush();
-    if (text.size() > kPieceSize) {
-      std::fwrite(text.data(), 1, text.size(), output);
-      return;
-    }
+// A text that the rest of the piece is too small for.
+[[gnu::noinline]] void PutOnNextPiece(std::string_view text) {
+  Flush();
+  if (text.size() > kPieceSize) {
+    std::fwrite(text.data(), 1, text.size(), output);
+    return;
   }
+  std::memcpy(piece, text.data(), text.size());
+  piece_length = text.size();
+}
+
+// In line, so that a literal is a store or two: a module consists of very many short ones.
+[[gnu::always_inline]] inline void Put(std::string_view text) {
+  if (text.size() > kPieceSize - piece_length) return PutOnNextPiece(text);
   std::memcpy(piece + piece_length, text.data(), text.size());
   piece_length += text.size();
 }
@@ -42,23 +48,22 @@ void PutText(const char* text) {
   if (text) Put(text);
 }
 
-// The start of a line: the object's comment mark, then tabs.
-void Begin(std::string_view prefix, std::size_t tabs) {
-  if (!prefix.empty()) Put(prefix);
-  Put(std::string_view("\t\t\t", tabs));
+// What each line of an object that stands as a comment begins with; mostly nothing.
+void PutMark(std::string_view mark) {
+  if (!mark.empty()) Put(mark);
 }
 
-void PutLine(std::string_view prefix, std::size_t tabs, std::string_view text) {
-  Begin(prefix, tabs);
+// A line of an object, or the first part of one.
+[[gnu::always_inline]] inline void PutLine(std::string_view mark, std::string_view text) {
+  PutMark(mark);
   Put(text);
-  Put("\n");
 }
 
 bool IsShell(const Widg* widg) {
   return IsClass(widg, "TopLevelShell") || IsClass(widg, "XmDialogShell");
 }
 
-bool IsWritten(const Widg* widg) { return OsiStrlen(widg->class_name) > 0; }
+bool IsWritten(const Widg* widg) { return !widg->class_name.empty(); }
 
 // UIL has no shells: they stand in the module as comments, which the builder knows by its own mark.
 std::string_view ShellMark() { return usezo ? "!(ZO)" : "!"; }
@@ -87,7 +92,6 @@ void GenProcedures() {
   const std::size_t count = GetProcedures(&procedures);
   for (std::size_t i = 0; i < count; ++i) {
     FixProcedureName(procedures[i]);
-    Begin("", 0);
     Put("procedure ");
     PutText(procedures[i]);
     Put(";\n");
@@ -95,36 +99,34 @@ void GenProcedures() {
   Put("\n");
 }
 
-void GenControls(const Widg* widg, std::string_view prefix) {
-  PutLine(prefix, 1, "controls {");
+void GenControls(const Widg* widg, std::string_view mark) {
+  PutLine(mark, "\tcontrols {\n");
   for (const Widg* child = widg->child; child; child = child->next) {
     if (!IsWritten(child)) continue;
-    const bool marked = prefix.empty() && IsShell(child);
+    const bool marked = mark.empty() && IsShell(child);
     if (marked && OmitShells()) continue;
-    Begin(prefix, 0);
-    if (marked) Put(ShellMark());
-    Put("\t\t");
+    PutLine(marked ? ShellMark() : mark, "\t\t");
     if (!child->managed) Put("unmanaged ");
-    PutText(child->class_name);
+    Put(child->class_name.view());
     Put(" ");
     PutText(child->name);
     Put(";\n");
   }
-  PutLine(prefix, 2, "};");
+  PutLine(mark, "\t\t};\n");
 }
 
-void GenArguments(const Widg* widg, std::string_view prefix) {
-  PutLine(prefix, 1, "arguments {");
+void GenArguments(const Widg* widg, std::string_view mark) {
+  PutLine(mark, "\targuments {\n");
   for (const Resource* resource = widg->resources; resource; resource = resource->next) {
     // Carries the glyph's file name between the steps of the conversion; no resource of Motif's.
-    if (OsiStrcmp(resource->name, "XmNoriginalPixmapName") == 0) continue;
-    Begin(prefix, 2);
-    PutText(resource->name);
+    if (resource->name == "XmNoriginalPixmapName") continue;
+    PutLine(mark, "\t\t");
+    Put(resource->name.view());
     Put(" = ");
     PutText(resource->value);
     Put(";\n");
   }
-  PutLine(prefix, 2, "};");
+  PutLine(mark, "\t\t};\n");
 }
 
 void PutCall(const Callback* callback) {
@@ -136,57 +138,57 @@ void PutCall(const Callback* callback) {
 
 // Several callbacks stand in one list under the name of the first, whatever their own: the builder
 // reads no second list.
-void GenProcedureList(const Callback* callbacks, std::string_view prefix) {
-  Begin(prefix, 2);
+void GenProcedureList(const Callback* callbacks, std::string_view mark) {
+  PutLine(mark, "\t\t");
   PutText(callbacks->callback_name);
   Put(" = procedures {\n");
   for (const Callback* callback = callbacks; callback; callback = callback->next) {
-    Begin(prefix, 3);
+    PutLine(mark, "\t\t\t");
     PutCall(callback);
     Put(";\n");
   }
-  PutLine(prefix, 3, "};");
-  PutLine(prefix, 0, "");
-  PutLine(prefix, 0, "};");
+  PutLine(mark, "\t\t\t};\n");
+  PutLine(mark, "\n");
+  PutLine(mark, "};\n");
 }
 
 // Ends the object, too: where its closing brace stands depends on the callbacks.
-void GenCallbacks(const Widg* widg, std::string_view prefix) {
-  PutLine(prefix, 1, "callbacks {");
+void GenCallbacks(const Widg* widg, std::string_view mark) {
+  PutLine(mark, "\tcallbacks {\n");
   const Callback* callbacks = widg->callbacks;
   if (!callbacks) {
-    PutLine(prefix, 2, "};");
+    PutLine(mark, "\t\t};\n");
     Put("\n");
-    PutLine(prefix, 1, "};");
+    PutLine(mark, "\t};\n");
     Put("\n");
     return;
   }
   if (callbacks->next) {
-    GenProcedureList(callbacks, prefix);
+    GenProcedureList(callbacks, mark);
   } else {
-    Begin(prefix, 2);
+    PutLine(mark, "\t\t");
     PutText(callbacks->callback_name);
     Put(" = procedure ");
     PutCall(callbacks);
     Put(";\n");
-    PutLine(prefix, 2, "};");
+    PutLine(mark, "\t\t};\n");
   }
-  PutLine(prefix, 0, "};");
+  PutLine(mark, "};\n");
   Put("\n");
 }
 
 void GenObject(const Widg* widg) {
   if (IsShell(widg) && OmitShells()) return;
-  const std::string_view prefix = IsShell(widg) ? ShellMark() : "";
-  PutLine(prefix, 0, "object");
-  Begin(prefix, 0);
+  const std::string_view mark = IsShell(widg) ? ShellMark() : "";
+  PutLine(mark, "object\n");
+  PutMark(mark);
   PutText(widg->name);
   Put(":");
-  PutText(widg->class_name);
+  Put(widg->class_name.view());
   Put("{\n");
-  GenControls(widg, prefix);
-  GenArguments(widg, prefix);
-  GenCallbacks(widg, prefix);
+  GenControls(widg, mark);
+  GenArguments(widg, mark);
+  GenCallbacks(widg, mark);
 }
 
 // Writes the objects below the widget, then its own. A widget is written once, where it is met

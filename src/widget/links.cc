@@ -243,13 +243,13 @@ void MakeSubHier(Widg* parent, Widg* child, Widg* new_parent) {
   MovePositionResources(child, new_parent);
 }
 
-void InsertWidgBelow(Widg* widg, const char* class_name, char* name) {
+void InsertWidgBelow(Widg* widg, FixedText class_name, char* name) {
   Widg* inserted = MakeWidg(class_name, name);
   Widg* children = widg->child;
   SetChildren(widg, inserted);
   SetChildren(inserted, children);
   CopySizeResources(widg, inserted);
-  if (OsiStrcmp(class_name, "XmBulletinBoard") == 0) SetTightBoard(inserted);
+  if (class_name == "XmBulletinBoard") SetTightBoard(inserted);
 }
 
 unsigned LinkChanges() { return state.changes; }

@@ -13,6 +13,8 @@
 #ifndef PANDREL_WIDGET_LINKS_H
 #define PANDREL_WIDGET_LINKS_H
 
+#include "osi/fixed_text.h"
+
 struct Widg;
 
 // What `place.parent` points at for a top-level widget; no widget of the tree.
@@ -69,7 +71,7 @@ void MakeSubHier(Widg* parent, Widg* child, Widg* new_parent);
 
 // Makes a new widget the only child of `widg`; it adopts the former children and gets copies of the
 // size. A bulletin board also gets zero margins and grows with its children.
-void InsertWidgBelow(Widg* widg, const char* class_name, char* name);
+void InsertWidgBelow(Widg* widg, FixedText class_name, char* name);
 
 // The last widget of the list that `widg` is in or begins; null for null.
 Widg* LastSibling(Widg* widg);

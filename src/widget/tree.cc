@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "widget/tree.h"
 
-#include <charconv>
-#include <cstdlib>
 #include <cstring>
 
 #include "osi/arena.h"
@@ -25,7 +23,7 @@ static void FixRequestedName(char* name) {
   if (std::strlen(name) > kLongestName) name[kCutName] = '\0';
 }
 
-Widg* MakeWidg(const char* class_name, char* requested) {
+Widg* MakeWidg(FixedText class_name, char* requested) {
   auto* widg = ArenaNew<Widg>();
   if (!widg) Error("Out of memory in MakeWidg");
   widg->gil_name = ArenaText(requested, OsiStrlen(requested));
@@ -45,7 +43,7 @@ void SetGilName(Widg* widg, char* gil_name) {
   NameIndexRemember(widg);
 }
 
-Resource* MakeResource(const char* name, const char* value) {
+Resource* MakeResource(FixedText name, const char* value) {
   auto* resource = ArenaNew<Resource>();
   if (!resource) Error("Out of memory in MakeResource");
   resource->name = name;
@@ -62,14 +60,10 @@ Callback* MakeCallback(const char* callback_name, char* procedure, const char* a
   return callback;
 }
 
-bool IsClass(const Widg* widg, const char* class_name) {
-  return OsiStrcmp(widg->class_name, class_name) == 0;
-}
-
-void AddResource(Widg* widg, const char* name, const char* value) {
+void AddResource(Widg* widg, FixedText name, const char* value) {
   Resource** link = &widg->resources;
   for (; *link; link = &(*link)->next) {
-    if (OsiStrcmp((*link)->name, name) == 0) {
+    if ((*link)->name == name) {
       (*link)->value = value;
       return;
     }
@@ -77,33 +71,29 @@ void AddResource(Widg* widg, const char* name, const char* value) {
   *link = MakeResource(name, value);
 }
 
-const char* GetResourceValue(const Widg* widg, const char* name) {
+const char* GetResourceValue(const Widg* widg, FixedText name) {
   for (const Resource* resource = widg->resources; resource; resource = resource->next) {
-    if (OsiStrcmp(resource->name, name) == 0) return resource->value ? resource->value : "";
+    if (resource->name == name) return resource->value ? resource->value : "";
   }
   return "";
 }
 
-bool HasResource(const Widg* widg, const char* name) { return *GetResourceValue(widg, name); }
+bool HasResource(const Widg* widg, FixedText name) { return *GetResourceValue(widg, name); }
 
-int32_t GetResourceInt(const Widg* widg, const char* name) {
+int32_t GetResourceInt(const Widg* widg, FixedText name) {
   const char* value = GetResourceValue(widg, name);
-  // Most geometry is absent, or a number that we wrote ourselves.
-  if (*value == '\0') return 0;
-  int32_t number = 0;
-  if (std::from_chars(value, value + std::strlen(value), number).ec == std::errc()) return number;
-  return static_cast<int32_t>(std::strtol(value, nullptr, 10));
+  return *value ? StringToInt(value) : 0;  // most geometry is absent
 }
 
-void RemoveResource(Widg* widg, const char* name) {
+void RemoveResource(Widg* widg, FixedText name) {
   for (Resource** link = &widg->resources; *link; link = &(*link)->next) {
-    if (OsiStrcmp((*link)->name, name) != 0) continue;
+    if ((*link)->name != name) continue;
     *link = (*link)->next;
     return;
   }
 }
 
-void MoveResource(Widg* from, const char* name, Widg* to) {
+void MoveResource(Widg* from, FixedText name, Widg* to) {
   const char* value = GetResourceValue(from, name);
   if (!*value) return;
   AddResource(to, name, value);

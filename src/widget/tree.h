@@ -12,13 +12,15 @@
 
 #include <cstdint>
 
+#include "osi/fixed_text.h"
+
 struct Action;
 struct Widg;
 
 // One resource setting. Neither text is copied.
 struct Resource {
   Resource* next;
-  const char* name;   // "XmNwidth"
+  FixedText name;     // "XmNwidth"
   const char* value;  // as it stands in UIL behind " = "
 };
 
@@ -51,7 +53,7 @@ struct Widg {
   // What walks and searches look at stands together.
   Widg* next;              // next sibling
   Widg* child;             // first child
-  const char* class_name;  // Motif class; empty: never written
+  FixedText class_name;    // Motif class; empty: never written
   Resource* resources;     // in the order in which each name was first set
   // Marks of walks, so that each ends whatever the links are.
   uint32_t visit;                     // of the search that saw the widget last (widget/search.cc)
@@ -76,35 +78,37 @@ extern Widg* top_widget;
 // in the caller's buffer the first letter is lowered and a name of 32 characters or more is cut to
 // 30, then the name table makes it unique. A null name counts as empty. Ends the run when memory is
 // exhausted, as the other constructors do.
-Widg* MakeWidg(const char* class_name, char* requested);
+Widg* MakeWidg(FixedText class_name, char* requested);
 
-Resource* MakeResource(const char* name, const char* value);
+Resource* MakeResource(FixedText name, const char* value);
 Callback* MakeCallback(const char* callback_name, char* procedure, const char* argument);
 
 // Gives the widget another GIL name, which is shared, not copied.
 void SetGilName(Widg* widg, char* gil_name);
 
 // Whether the widget is of that Motif class.
-bool IsClass(const Widg* widg, const char* class_name);
+inline bool IsClass(const Widg* widg, FixedText class_name) {
+  return widg->class_name == class_name;
+}
 
 // Sets a resource: replaces the value where the name stands already, else appends.
-void AddResource(Widg* widg, const char* name, const char* value);
+void AddResource(Widg* widg, FixedText name, const char* value);
 
 // The value of the first resource of that name, "" when there is none; never null.
-const char* GetResourceValue(const Widg* widg, const char* name);
+const char* GetResourceValue(const Widg* widg, FixedText name);
 
 // Whether the widget has a value for the resource that is not empty.
-bool HasResource(const Widg* widg, const char* name);
+bool HasResource(const Widg* widg, FixedText name);
 
 // The value as atoi reads it: 0 for an absent resource.
-int32_t GetResourceInt(const Widg* widg, const char* name);
+int32_t GetResourceInt(const Widg* widg, FixedText name);
 
 // Unlinks the first resource of that name. The record keeps its `next`: another widget whose list
 // head it is still sees it and what follows.
-void RemoveResource(Widg* widg, const char* name);
+void RemoveResource(Widg* widg, FixedText name);
 
 // Moves a resource that is not empty from one widget to another.
-void MoveResource(Widg* from, const char* name, Widg* to);
+void MoveResource(Widg* from, FixedText name, Widg* to);
 
 // Empties the tree.
 void ResetTree();

@@ -3,6 +3,7 @@
 
 #include <charconv>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 
 #include "osi/arena.h"
@@ -49,6 +50,14 @@ char* IntToString(int32_t number) {
   char* text = ArenaText(digits, FormatInt(number, digits));
   if (!text) Error("Out of memory in IntToString");
   return text;
+}
+
+int32_t StringToInt(const char* text) {
+  if (!text) return 0;
+  // Mostly a number that we wrote ourselves.
+  int32_t number = 0;
+  if (std::from_chars(text, text + std::strlen(text), number).ec == std::errc()) return number;
+  return static_cast<int32_t>(std::strtol(text, nullptr, 10));
 }
 
 char* IntToQuotedString(int32_t number) {

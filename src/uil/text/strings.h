@@ -16,6 +16,9 @@
 // The decimal text of `number`.
 char* IntToString(int32_t number);
 
+// The number at the start of `text` as atoi reads it: 0 when there is none.
+int32_t StringToInt(const char* text);
+
 // The decimal text of `number` between double quotes: a UIL string literal.
 char* IntToQuotedString(int32_t number);
 

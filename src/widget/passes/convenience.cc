@@ -6,8 +6,8 @@
 #include "widget/walk.h"
 
 struct ConvenienceRow {
-  const char* class_name;
-  const char* work_class;
+  FixedText class_name;
+  FixedText work_class;
 };
 
 static const ConvenienceRow kConvenience[] = {

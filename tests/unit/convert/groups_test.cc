@@ -167,7 +167,7 @@ TEST_F(Groups, IgnoredGroupOfAnOwnerIsAChildThatIsNeverWritten) {
   ignore_groups = 1;
   Convert(Owning(Object(CONTROL_AREA, "area"), {Button("a", 0, 0), Group({"a"})}));
   EXPECT_EQ(NameTree(top_widget), "area(a group)");
-  EXPECT_STREQ(Find("group")->class_name, "");
+  EXPECT_STREQ(Find("group")->class_name.text(), "");
 }
 
 TEST_F(Groups, IgnoredGroupOfAWindowCountsAsAChild) {

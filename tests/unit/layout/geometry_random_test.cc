@@ -37,7 +37,7 @@ class RandomContainer {
     SetSome(container);
     std::vector<Widg*> children;
     for (int i = Number(kMaxChildren + 1); i > 0; --i) {
-      static const char* const kClasses[] = {"XmTextField", "XmText",       "XmToggleButton",
+      static const FixedText kClasses[] = {"XmTextField", "XmText",       "XmToggleButton",
                                              "XmMenuBar",   "XmPushButton", "XmLabel"};
       Widg* child = NewWidg(kClasses[Number(6)], "child");
       if (copies_ && !children.empty() && Number(2) == 0) {
@@ -61,9 +61,9 @@ class RandomContainer {
 
   // Some of the resources, in some order.
   void SetSome(Widg* widg) {
-    std::vector<const char*> names = {"XmNx", "XmNy", "XmNwidth", "XmNheight"};
+    std::vector<FixedText> names = {"XmNx", "XmNy", "XmNwidth", "XmNheight"};
     std::shuffle(names.begin(), names.end(), random_);
-    for (const char* name : names) {
+    for (const FixedText& name : names) {
       if (Number(4) > 0) AddResource(widg, name, IntToString(Coordinate()));
     }
   }

@@ -13,7 +13,7 @@ static constexpr int kDeepestTree = 50;
 
 char* Writable(std::string_view text) { return ArenaText(text.data(), text.size()); }
 
-Widg* NewWidg(const char* class_name, std::string_view name,
+Widg* NewWidg(FixedText class_name, std::string_view name,
               std::initializer_list<Widg*> children) {
   Widg* widg = MakeWidg(class_name, Writable(name));
   for (Widg* child : children) AddChildWidg(widg, child);
@@ -36,7 +36,7 @@ Widg* TopLevel(std::initializer_list<Widg*> widgets) {
 }
 
 Widg* With(Widg* widg, std::initializer_list<Setting> resources) {
-  for (const Setting& setting : resources) AddResource(widg, setting.first, setting.second);
+  for (const Setting& setting : resources) AddResource(widg, setting.name, setting.value);
   return widg;
 }
 
@@ -63,7 +63,7 @@ static void AppendItem(std::string* text, const std::string& separator, const st
 std::string Resources(const Widg* widg) {
   std::string text;
   for (const Resource* resource = widg->resources; resource; resource = resource->next) {
-    AppendItem(&text, " ", std::string(resource->name) + "=" + resource->value);
+    AppendItem(&text, " ", std::string(resource->name.text()) + "=" + resource->value);
   }
   return text;
 }
@@ -109,7 +109,7 @@ static std::string ListText(const Widg* first, Label label, int depth) {
 
 static const char* GilName(const Widg* widg) { return widg->gil_name; }
 static const char* InstanceName(const Widg* widg) { return widg->name; }
-static const char* ClassName(const Widg* widg) { return widg->class_name; }
+static const char* ClassName(const Widg* widg) { return widg->class_name.text(); }
 
 std::string Names(const Widg* first) {
   std::string text;

@@ -7,7 +7,6 @@
 #include <initializer_list>
 #include <string>
 #include <string_view>
-#include <utility>
 
 #include "widget/tree.h"
 
@@ -15,7 +14,7 @@
 char* Writable(std::string_view text);
 
 // A widget of that class, requested as `name`, with the children appended one by one.
-Widg* NewWidg(const char* class_name, std::string_view name,
+Widg* NewWidg(FixedText class_name, std::string_view name,
               std::initializer_list<Widg*> children = {});
 
 // Links widgets that are in no list yet as siblings; returns the first.
@@ -24,7 +23,10 @@ Widg* Siblings(std::initializer_list<Widg*> widgets);
 // Appends widgets that are in no list yet to the top level; returns its first widget.
 Widg* TopLevel(std::initializer_list<Widg*> widgets);
 
-using Setting = std::pair<const char*, const char*>;
+struct Setting {
+  FixedText name;
+  const char* value;
+};
 
 // Sets the resources; returns the widget.
 Widg* With(Widg* widg, std::initializer_list<Setting> resources);

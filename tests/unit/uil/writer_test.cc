@@ -17,7 +17,7 @@ class WriterTest : public SessionFixture {
   WriterTest() { usezo = 0; }
 
   // A widget of its own texts, below `parent` unless that is null.
-  static Widg* New(const char* class_name, std::string name, Widg* parent = nullptr) {
+  static Widg* New(FixedText class_name, std::string name, Widg* parent = nullptr) {
     Widg* widg = MakeWidg(class_name, name.data());
     if (!parent) return widg;
     Widg** end = &parent->child;

@@ -51,7 +51,7 @@ class RandomProject {
     return Writable(std::string(number == 0 ? "N" : "n").append(std::to_string(number)));
   }
 
-  Widg* New(const char* class_name) {
+  Widg* New(FixedText class_name) {
     widgets_.push_back(MakeWidg(class_name, Name()));
     return widgets_.back();
   }
@@ -70,7 +70,7 @@ class RandomProject {
     }
   }
 
-  static Widg* ClaimAs(Widg* menu, const char* wanted, const char* other) {
+  static Widg* ClaimAs(Widg* menu, FixedText wanted, FixedText other) {
     if (IsClass(menu, other)) menu = CopyWidgTree(menu);
     menu->class_name = wanted;
     return menu;
@@ -136,10 +136,10 @@ class RandomProject {
   }
 
   // Converts an object with what it owns; null for a dropped group.
-  Widg* ConvertObject(const char* class_name, int depth) {
+  Widg* ConvertObject(FixedText class_name, int depth) {
     Widg* widg = New(class_name);
     for (int i = depth < kMaxDepth ? Number(3) : 0; i > 0; --i) {
-      static const char* const kOwned[] = {"XmBulletinBoard", "XmLabel", "XmScrolledText",
+      static const FixedText kOwned[] = {"XmBulletinBoard", "XmLabel", "XmScrolledText",
                                            "XmUnknownMenu"};
       Widg* child = ConvertObject(kOwned[Number(4)], depth + 1);
       if (child) AddChildWidg(widg, child);
@@ -183,7 +183,7 @@ class RandomProject {
       if (units_) NameIndexNewUnit();
       const bool is_group = i > menus && Chance(20);
       Widg* widg = is_group ? New("XmBulletinBoard")
-                            : ConvertObject(i < menus ? "XmUnknownMenu" : "XmForm", 0);
+                            : ConvertObject(i < menus ? FixedText("XmUnknownMenu") : FixedText("XmForm"), 0);
       if (is_group) Gather(widg);
       if (!widg || is_group) continue;
       LinkTopLevel(last && *link ? &last->next : link, widg);

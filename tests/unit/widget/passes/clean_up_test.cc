@@ -56,7 +56,7 @@ TEST_F(CleanUp, UnclaimedMenuBecomesAPopupAndIsDropped) {
   Widg* menu = Unclaimed("menu");
   TopLevel({menu, Shell("a")});
   RunCleanUp();
-  EXPECT_STREQ(menu->class_name, "XmPopupMenu");
+  EXPECT_STREQ(menu->class_name.text(), "XmPopupMenu");
   EXPECT_EQ(Names(top_widget), "a");
 }
 

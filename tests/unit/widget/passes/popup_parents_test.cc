@@ -24,11 +24,13 @@ TEST_F(PopupParents, FirstPopupMenuAmongTheChildrenIsFound) {
 }
 
 TEST_F(PopupParents, ThreeClassesMayHoldPopupMenus) {
-  for (const char* valid : {"XmBulletinBoard", "XmRowColumn", "XmForm"}) {
-    EXPECT_EQ(ValidPopupMenuParent(NewWidg(valid, "a")), 1) << valid;
+  static const FixedText kValid[] = {"XmBulletinBoard", "XmRowColumn", "XmForm"};
+  for (FixedText valid : kValid) {
+    EXPECT_EQ(ValidPopupMenuParent(NewWidg(valid, "a")), 1) << valid.text();
   }
-  for (const char* invalid : {"XmPushButton", "XmDrawingArea", "TopLevelShell", "XmFrame", ""}) {
-    EXPECT_EQ(ValidPopupMenuParent(NewWidg(invalid, "a")), 0) << invalid;
+  static const FixedText kInvalid[] = {"XmPushButton", "XmDrawingArea", "TopLevelShell", "XmFrame", ""};
+  for (FixedText invalid : kInvalid) {
+    EXPECT_EQ(ValidPopupMenuParent(NewWidg(invalid, "a")), 0) << invalid.text();
   }
 }
 
