@@ -142,16 +142,26 @@ static bool IsBefore(const Widg* a, const Widg* b) {
   return in_list_a ? at_a->place.order < at_b->place.order : at_a->place.order > at_b->place.order;
 }
 
-// Whether no link has changed since the last search with many namesakes. From then on a snapshot,
-// which knows the answers to all further questions, is worth its price.
-static bool TreeStandsStill() {
-  static unsigned link_changes = 0;
-  const bool stands_still = link_changes == LinkChanges();
-  link_changes = LinkChanges();
-  return stands_still;
+// What was found for names that many widgets have. Good until a link or a name changes.
+struct Findings {
+  unsigned link_changes = 0;
+  unsigned name_changes = 0;
+  TextMap<Widg*> named;
+  TextMap<Widg*> named_with_child;
+};
+
+static Findings findings;
+
+static TextMap<Widg*>& FindingsNow(bool with_child) {
+  if (findings.link_changes != LinkChanges() || findings.name_changes != NameChanges()) {
+    findings = Findings();
+    findings.link_changes = LinkChanges();
+    findings.name_changes = NameChanges();
+  }
+  return with_child ? findings.named_with_child : findings.named;
 }
 
-// So many widgets of one name are looked at before a snapshot is thought of.
+// So many widgets of one name are looked at before it is remembered what was found.
 static constexpr int kFewNamesakes = 16;
 
 // A widget with this number or a lower one, where it is in the tree at all, stands to the left of
@@ -169,8 +179,16 @@ static bool FindInIndex(const char* name, bool with_child, Widg** found) {
   if (*found) return true;
   const Widg* best_root = nullptr;
   int looked_at = 0;
-  for (Widg* widg = NewestOfName(name); widg; widg = OlderOfName(widg)) {
-    if (++looked_at == kFewNamesakes + 1 && TreeStandsStill()) return false;
+  Widg* const newest = NewestOfName(name);
+  for (Widg* widg = newest; widg; widg = OlderOfName(widg)) {
+    if (++looked_at == kFewNamesakes + 1) {
+      const TextMap<Widg*>& known = FindingsNow(with_child);
+      const auto finding = known.find(name);
+      if (finding != known.end()) {
+        *found = finding->second;
+        return true;
+      }
+    }
     // Nothing made before the unit, or the file, of what was found can be before that.
     if (best_root && widg->place.made <= StartOfItsLike(best_root)) break;
     if ((with_child && !widg->child) || widg->place.parent == kTopLevel) continue;
@@ -181,6 +199,8 @@ static bool FindInIndex(const char* name, bool with_child, Widg** found) {
     *found = widg;
     best_root = root;
   }
+  // Under a text that outlives the question.
+  if (looked_at > kFewNamesakes) FindingsNow(with_child).emplace(newest->gil_name, *found);
   return true;
 }
 
@@ -248,6 +268,7 @@ Widg* FindParentOfWidg(Widg* tree, Widg* widg) {
 
 void ResetSearch() {
   snapshot = Snapshot();
+  findings = Findings();
   searches = 0;
 }
 

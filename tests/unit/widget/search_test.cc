@@ -71,6 +71,32 @@ TEST_F(WidgSearch, WidgetIsFoundByTheNameItWasGivenLast) {
   EXPECT_EQ(FindWidg(tree, "item"), nullptr);
 }
 
+// Of so many namesakes the search remembers which one it found.
+TEST_F(WidgSearch, OneOfManyNamesakesIsFoundAsTheTreeStands) {
+  constexpr int kMany = 40;
+  Widg* first = NewWidg("XmForm", "form");
+  Widg* second = NewWidg("XmForm", "form");
+  for (int i = 0; i < kMany; ++i) AddChildWidg(first, Leaf("item"));
+  Widg* tree = TopLevel({first, second});
+  EXPECT_EQ(FindWidg(tree, "item"), first->child);
+  EXPECT_EQ(FindWidg(tree, "item"), first->child);
+  EXPECT_EQ(FindWidgWithChild(tree, "item"), nullptr);
+  EXPECT_EQ(FindWidgWithChild(tree, "item"), nullptr);
+
+  // Below the form further right, where a search comes first.
+  Widg* moved = LastSibling(first->child);
+  MoveWidgetInHierarchy(moved, first, second);
+  EXPECT_EQ(FindWidg(tree, "item"), moved);
+  EXPECT_EQ(FindWidg(tree, "item"), moved);
+  AddChildWidg(first->child, Leaf("text"));
+  EXPECT_EQ(FindWidgWithChild(tree, "item"), first->child);
+  EXPECT_EQ(FindWidgWithChild(tree, "item"), first->child);
+
+  SetGilName(moved, Writable("other"));
+  EXPECT_EQ(FindWidg(tree, "item"), first->child);
+  EXPECT_EQ(FindWidg(tree, "item"), first->child);
+}
+
 TEST_F(WidgSearch, NullNameCountsAsEmpty) {
   Widg* nameless = Leaf("");
   EXPECT_EQ(FindWidg(TopLevel({Leaf("a"), nameless}), nullptr), nameless);
