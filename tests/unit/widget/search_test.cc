@@ -92,6 +92,7 @@ TEST_F(WidgSearch, OneOfManyNamesakesIsFoundAsTheTreeStands) {
   EXPECT_EQ(FindWidgWithChild(tree, "item"), first->child);
   EXPECT_EQ(FindWidgWithChild(tree, "item"), first->child);
 
+  EXPECT_EQ(FindWidg(tree, "item"), moved);
   SetGilName(moved, Writable("other"));
   EXPECT_EQ(FindWidg(tree, "item"), first->child);
   EXPECT_EQ(FindWidg(tree, "item"), first->child);
