@@ -89,7 +89,8 @@ static void Note(Answer answer, const Widg* widg, const char* when) {
 
 static const EventRow* FindRow(const Widg* widg, const char* when) {
   for (const EventRow& row : kEvents) {
-    if (OsiStrcmp(when, row.event) == 0 && (row.class_name.empty() || IsClass(widg, row.class_name))) {
+    if (OsiStrcmp(when, row.event) == 0 &&
+        (row.class_name.empty() || IsClass(widg, row.class_name))) {
       return &row;
     }
   }

@@ -75,7 +75,8 @@ static Widg* MakeItem(const Widg* menu, int32_t menu_type, const ItemLists& item
     std::fprintf(stderr, "***Unknown menu type: %d\n", static_cast<int>(menu_type));
     return nullptr;
   }
-  Widg* widg = MakeNamedAfter(toggles ? FixedText("XmToggleButton") : FixedText("XmPushButton"), menu, "choice");
+  Widg* widg = MakeNamedAfter(toggles ? FixedText("XmToggleButton") : FixedText("XmPushButton"),
+                              menu, "choice");
   HandleWidgLabelAndType(widg, item.label, item.label_type);
   if (ValueToken(item.state, ACTIVE) == INACTIVE) AddResource(widg, "XmNsensitive", "false");
   if (toggles && ValueToken(item.selected, NIL) == T) AddResource(widg, "XmNset", "true");

@@ -33,7 +33,8 @@ char* MakeColorVal(const char* text) {
 }
 
 char* MakeWidgetAttachment(const Widg* widg) {
-  return JoinTexts(widg->class_name.text(), " ", widg->name, "Out of memory in MakeWidgetAttachment");
+  return JoinTexts(widg->class_name.text(), " ", widg->name,
+                   "Out of memory in MakeWidgetAttachment");
 }
 
 static void SetColor(Widg* widg, FixedText resource, const Value* color) {

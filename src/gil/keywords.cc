@@ -84,8 +84,8 @@ constexpr KeywordPatterns keyword_patterns = [] {
   static_assert(std::size(keywords) == patterns.size() + 1);
   for (std::size_t row = 0; row < patterns.size(); ++row) {
     const std::string_view text = keywords[row].text;
-    std::array<char, kKeywordRoom> bytes{};
-    for (std::size_t i = 0; i < text.size(); ++i) bytes[i] = text[i];  // ends what is too long
+    std::array<char, kKeywordRoom> bytes{};  // a longer text would not compile
+    for (std::size_t i = 0; i < text.size(); ++i) bytes[i] = text[i];
     patterns[row] = {std::bit_cast<KeywordWords>(bytes), keywords[row].token,
                      static_cast<int32_t>(text.size())};
   }

@@ -34,8 +34,8 @@ extern const KeywordPatterns keyword_patterns;
 using KeywordMasks = std::array<KeywordWords, kKeywordRoom + 1>;
 extern const KeywordMasks keyword_masks;
 
-// The first `length` bytes at `text`, at most kKeywordRoom, then NULs. As many as kKeywordRoom bytes
-// there must be readable, here and below.
+// The first `length` bytes at `text`, at most kKeywordRoom, then NULs. As many as kKeywordRoom
+// bytes there must be readable, here and below.
 inline KeywordWords KeywordWordsAt(const char* text, std::size_t length) {
   KeywordWords words;
   std::memcpy(&words, text, sizeof words);

@@ -32,8 +32,8 @@ constexpr std::size_t kBufferSize = kIoBufferSize;
 static_assert(kBufferSize > 2 * kLookAhead);
 
 // A window on standard input. A NUL stands behind the last byte read, so that loops over a class of
-// characters without NUL need not test for the end. Behind it is room for a look at a word of blanks
-// or a keyword.
+// characters without NUL need not test for the end. Behind it is room for a look at a word of
+// blanks or a keyword.
 static_assert(kIoBufferMargin > kKeywordRoom && kIoBufferMargin > sizeof(uint64_t));
 constexpr char* buffer = io_buffer;
 
@@ -151,8 +151,8 @@ const char* SkipClass(const char* from, uint8_t char_class) {
   return STRING_VALUE;
 }
 
-// By keyword, the rows of the two that came behind it last. The editor writes an object's attributes
-// always in the same order, so one of them mostly comes again.
+// By keyword, the rows of the two that came behind it last. The editor writes an object's
+// attributes always in the same order, so one of them mostly comes again.
 using Followers = std::array<uint8_t, 2>;
 std::array<Followers, kLastToken - kFirstToken + 1> followers;
 Followers* expected = followers.data();  // behind the last keyword
@@ -171,8 +171,8 @@ bool KeywordFollows(const KeywordPattern& keyword) {
   return StandsAt(keyword, text) && !Is(text[keyword.length], kKeyword);
 }
 
-// A colon that the keyword expected first does not follow. 0 for a keyword that the table lacks and for a
-// colon that starts none.
+// A colon that the keyword expected first does not follow. 0 for a keyword that the table lacks and
+// for a colon that starts none.
 [[gnu::noinline]] int32_t ScanOtherKeyword() {
   auto& [first, second] = *expected;
   std::swap(first, second);
@@ -203,8 +203,8 @@ int32_t ScanColon() {
   return IDENTIFIER;
 }
 
-// A number that begins with a dash or is long. 0 for dashes that no digit follows: the first of them
-// is an illegal character.
+// A number that begins with a dash or is long. 0 for dashes that no digit follows: the first of
+// them is an illegal character.
 [[gnu::noinline]] int32_t ScanOtherNumber() {
   const char* digits = input.cursor;
   if (input.cursor < input.bare_dashes_end) return ScanIllegalCharacter();
@@ -347,9 +347,7 @@ int32_t yylex() {
   }
 }
 
-void yyrestart() {
-  input = Input();
-}
+void yyrestart() { input = Input(); }
 
 void yyerror(const char* message) {
   // A message ends at the first NUL byte of the token, as all texts do.

@@ -51,10 +51,10 @@ struct Place {
 
 struct Widg {
   // What walks and searches look at stands together.
-  Widg* next;              // next sibling
-  Widg* child;             // first child
-  FixedText class_name;    // Motif class; empty: never written
-  Resource* resources;     // in the order in which each name was first set
+  Widg* next;            // next sibling
+  Widg* child;           // first child
+  FixedText class_name;  // Motif class; empty: never written
+  Resource* resources;   // in the order in which each name was first set
   // Marks of walks, so that each ends whatever the links are.
   uint32_t visit;                     // of the search that saw the widget last (widget/search.cc)
   uint32_t walk;                      // of the walk that saw it last (widget/walk.h)

@@ -44,7 +44,8 @@ TEST_F(Objects, ButtonWithAMenuIsACascadeButton) {
 }
 
 TEST_F(Objects, ButtonWhoseMenuIsNoTextIsAPushButton) {
-  EXPECT_STREQ(GilObjToMotifClassName(Object(BUTTON, "button", {Tok(MENU, NIL)})).text(), "XmPushButton");
+  EXPECT_STREQ(GilObjToMotifClassName(Object(BUTTON, "button", {Tok(MENU, NIL)})).text(),
+               "XmPushButton");
 }
 
 TEST_F(Objects, IgnoredGroupHasNoClass) {

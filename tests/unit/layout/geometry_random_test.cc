@@ -38,7 +38,7 @@ class RandomContainer {
     std::vector<Widg*> children;
     for (int i = Number(kMaxChildren + 1); i > 0; --i) {
       static const FixedText kClasses[] = {"XmTextField", "XmText",       "XmToggleButton",
-                                             "XmMenuBar",   "XmPushButton", "XmLabel"};
+                                           "XmMenuBar",   "XmPushButton", "XmLabel"};
       Widg* child = NewWidg(kClasses[Number(6)], "child");
       if (copies_ && !children.empty() && Number(2) == 0) {
         child = CopyWidg(children.back());

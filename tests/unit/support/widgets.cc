@@ -13,8 +13,7 @@ static constexpr int kDeepestTree = 50;
 
 char* Writable(std::string_view text) { return ArenaText(text.data(), text.size()); }
 
-Widg* NewWidg(FixedText class_name, std::string_view name,
-              std::initializer_list<Widg*> children) {
+Widg* NewWidg(FixedText class_name, std::string_view name, std::initializer_list<Widg*> children) {
   Widg* widg = MakeWidg(class_name, Writable(name));
   for (Widg* child : children) AddChildWidg(widg, child);
   return widg;

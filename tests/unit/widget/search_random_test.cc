@@ -145,7 +145,7 @@ class RandomProject {
     Widg* widg = New(class_name);
     for (int i = depth < kMaxDepth ? Number(3) : 0; i > 0; --i) {
       static const FixedText kOwned[] = {"XmBulletinBoard", "XmLabel", "XmScrolledText",
-                                           "XmUnknownMenu"};
+                                         "XmUnknownMenu"};
       Widg* child = ConvertObject(kOwned[Number(4)], depth + 1);
       if (child) AddChildWidg(widg, child);
     }
@@ -187,8 +187,9 @@ class RandomProject {
     for (int i = 0; i < objects && !testing::Test::HasFailure(); ++i) {
       if (units_) NameIndexNewUnit();
       const bool is_group = i > menus && Chance(20);
-      Widg* widg = is_group ? New("XmBulletinBoard")
-                            : ConvertObject(i < menus ? FixedText("XmUnknownMenu") : FixedText("XmForm"), 0);
+      Widg* widg =
+          is_group ? New("XmBulletinBoard")
+                   : ConvertObject(i < menus ? FixedText("XmUnknownMenu") : FixedText("XmForm"), 0);
       if (is_group) Gather(widg);
       if (!widg || is_group) continue;
       LinkTopLevel(last && *link ? &last->next : link, widg);

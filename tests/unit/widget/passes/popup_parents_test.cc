@@ -28,7 +28,8 @@ TEST_F(PopupParents, ThreeClassesMayHoldPopupMenus) {
   for (FixedText valid : kValid) {
     EXPECT_EQ(ValidPopupMenuParent(NewWidg(valid, "a")), 1) << valid.text();
   }
-  static const FixedText kInvalid[] = {"XmPushButton", "XmDrawingArea", "TopLevelShell", "XmFrame", ""};
+  static const FixedText kInvalid[] = {"XmPushButton", "XmDrawingArea", "TopLevelShell", "XmFrame",
+                                       ""};
   for (FixedText invalid : kInvalid) {
     EXPECT_EQ(ValidPopupMenuParent(NewWidg(invalid, "a")), 0) << invalid.text();
   }
