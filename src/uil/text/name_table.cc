@@ -37,7 +37,7 @@ static NameHandle NameEnter(NameTable* table, const char* name, std::size_t leng
   char* text = ArenaText(name, length);
   if (!text) Error("Out of memory in NameCreate");
   const auto handle = static_cast<NameHandle>(table->entries.size());
-  table->entries.push_back({text, 1});
+  table->entries.push_back({.text = text, .refcount = 1});
   table->index.emplace(text, handle);
   return handle;
 }
@@ -51,6 +51,20 @@ static NameHandle Revive(NameTable* table, NameHandle handle) {
   return handle;
 }
 
+// Where the number of that base stands; good until a name is entered. `taken` is the name that was
+// asked for.
+static FirstUntried* UntriedOf(NameTable* table, NameHandle taken, std::string_view base,
+                               bool is_taken_name) {
+  if (is_taken_name) return &table->entries[static_cast<std::size_t>(taken)].untried;
+  auto untried = table->untried.find(base);
+  if (untried == table->untried.end()) {
+    char* text = ArenaText(base.data(), base.size());
+    if (!text) Error("Out of memory in NameCreate");
+    untried = table->untried.emplace(text, 1).first;
+  }
+  return &untried.value();
+}
+
 NameHandle NameCreate(NameTable* table, const char* name) {
   if (!name) name = "";
   NameHandle found = NameLookup(table, name);
@@ -60,15 +74,11 @@ NameHandle NameCreate(NameTable* table, const char* name) {
   std::string numbered = name;
   OsiCutEndDigits(numbered.data());
   const std::size_t base_length = std::strlen(numbered.c_str());
-  auto untried = table->first_untried.find(std::string_view(numbered).substr(0, base_length));
-  if (untried == table->first_untried.end()) {
-    char* base = ArenaText(numbered.data(), base_length);
-    if (!base) Error("Out of memory in NameCreate");
-    untried = table->first_untried.emplace(base, 1).first;
-  }
-  for (int32_t& number = untried.value();; ++number) {
+  FirstUntried* untried = UntriedOf(table, found, std::string_view(numbered).substr(0, base_length),
+                                    base_length == numbered.size());
+  for (;;) {
     char digits[12];
-    const char* end = std::to_chars(digits, digits + sizeof digits, number).ptr;
+    const char* end = std::to_chars(digits, digits + sizeof digits, (*untried)++).ptr;
     numbered.replace(base_length, std::string::npos, digits,
                      static_cast<std::size_t>(end - digits));
     found = NameLookup(table, numbered.c_str());
@@ -87,7 +97,8 @@ void NameDelete(NameTable* table, const char* name) {
   if (handle == kNoName) return;
   int32_t& refcount = table->entries[static_cast<std::size_t>(handle)].refcount;
   if (refcount > 0) --refcount;
-  table->first_untried.clear();
+  table->untried.clear();
+  for (NameEntry& entry : table->entries) entry.untried = 1;
 }
 
 NameHandle NameCopy(NameTable* table, const char* name) {

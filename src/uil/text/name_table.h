@@ -16,9 +16,14 @@
 using NameHandle = int32_t;
 constexpr NameHandle kNoName = -1;
 
+// Below its number every numbered form of a base is in use, so that the search for the lowest free
+// one need not start from 1 again.
+using FirstUntried = int32_t;
+
 struct NameEntry {
-  char* text;        // in the arena; holders may write to it
-  int32_t refcount;  // 0: deleted but remembered
+  char* text;                // in the arena; holders may write to it
+  int32_t refcount;          // 0: deleted but remembered
+  FirstUntried untried = 1;  // of the base that the name itself is, or would be
 };
 
 struct NameTable {
@@ -26,10 +31,9 @@ struct NameTable {
   // Keys are the texts as they were entered. Texts renamed by their holders afterwards are looked
   // for by nobody: renaming happens only when the module is otherwise complete.
   TextMap<NameHandle> index;
-  // By base of a numbered name: a number below which every numbered form is in use, so that the
-  // search for the lowest free one need not start from 1 again. Forgotten whenever a name is
-  // deleted.
-  TextMap<int32_t> first_untried;
+  // By base, for names that are not their own base. Forgotten, as those of the entries are,
+  // whenever a name is deleted.
+  TextMap<FirstUntried> untried;
 };
 
 // Enters a unique form of `name` (null counts as empty) and returns its handle.
@@ -44,7 +48,8 @@ NameHandle NameCreate(NameTable* table, const char* name);
 // The text of the name; null for kNoName and for a handle that was never given out.
 char* NameGet(const NameTable* table, NameHandle handle);
 
-// Lowers the count of a present name, never below 0. Null and unknown names are ignored.
+// Lowers the count of a present name, never below 0. Null and unknown names are ignored. Linear in
+// the table.
 void NameDelete(NameTable* table, const char* name);
 
 // One more holder for a present name (no new name is made); for an absent one NameCreate, for null

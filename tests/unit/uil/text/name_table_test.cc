@@ -181,13 +181,37 @@ TEST_F(NameTableTest, NameWithoutMemoryEndsTheRun) {
 }
 
 TEST_F(NameTableTest, NumberedNameWithoutMemoryEndsTheRun) {
-  Create("a");
-  for (long requests : {0L, 1L}) {
+  Create("a1");
+  for (long requests : {0L, 1L}) {  // for the base, for the name
     NameTable copy = table;
-    const Outcome outcome = RunOutOfMemory(requests, [&copy] { NameCreate(&copy, "a"); });
+    const Outcome outcome = RunOutOfMemory(requests, [&copy] { NameCreate(&copy, "a1"); });
     EXPECT_EQ(outcome.status, -1) << requests;
     EXPECT_EQ(outcome.err, "Error: Out of memory in NameCreate\n") << requests;
   }
+  Create("b");
+  EXPECT_EQ(RunOutOfMemory(0, [this] { NameCreate(&table, "b"); }).status, -1);
+}
+
+// The search for a free number goes on where the last one ended, whichever form asked.
+TEST_F(NameTableTest, FormsOfOneBaseAskInTurn) {
+  for (const char* name : {"a", "a7", "a1"}) Create(name);
+  EXPECT_EQ(Create("a"), "a2");
+  EXPECT_EQ(Create("a7"), "a3");
+  EXPECT_EQ(Create("a7"), "a4");
+  EXPECT_EQ(Create("a"), "a5");
+  EXPECT_EQ(Create("a1"), "a6");
+  EXPECT_EQ(Create("a"), "a8");
+  EXPECT_EQ(Create("a7"), "a9");
+}
+
+TEST_F(NameTableTest, DeletedNameIsFoundByBothForms) {
+  for (int i = 0; i < 4; ++i) Create("a");
+  NameDelete(&table, "a2");
+  EXPECT_EQ(NameCreate(&table, "a3"), 2);  // a2 again
+  NameDelete(&table, "a1");
+  EXPECT_EQ(NameCreate(&table, "a"), 1);
+  EXPECT_EQ(Create("a3"), "a4");
+  EXPECT_EQ(Create("a"), "a5");
 }
 
 // The instance names
