@@ -18,6 +18,8 @@ inline void WantHugePages(void* block, std::size_t size) {
   madvise(block, size / kHugePageSize * kHugePageSize, MADV_HUGEPAGE);
 }
 
+// NOLINTBEGIN(bugprone-sizeof-expression): lists of pointers are what is kept here.
+
 // The standard allocator, but for blocks that fill a huge page. Fails as operator new does.
 template <typename T>
 struct HugePageAllocator {
@@ -49,5 +51,7 @@ struct HugePageAllocator {
     return true;
   }
 };
+
+// NOLINTEND(bugprone-sizeof-expression)
 
 #endif
