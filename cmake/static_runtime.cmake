@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
-# The C++ runtime as a part of the installed programs. As shared libraries it takes a quarter of the
-# time of a conversion to find, map and relocate, for a few kilobytes that are used of it.
-option(PANDREL_STATIC_RUNTIME "Link the C++ runtime into the installed programs, where there is a static one" ON)
+# The C++ runtime as a part of the programs that run once per file. As shared libraries it takes a
+# quarter of the time of a conversion to find, map and relocate, for a few kilobytes that are used of it.
+option(PANDREL_STATIC_RUNTIME "Link the C++ runtime into the programs that run once per file, where there is a static one" ON)
 
 set(PANDREL_STATIC_RUNTIME_OPTIONS -static-libstdc++ -static-libgcc -Wl,--gc-sections)
 
