@@ -90,6 +90,7 @@ static void ProcessInterface(const char* name) {
     // The stream is closed now; what it yields must be nothing, not a fault.
     if (!std::freopen("/dev/null", "r", stdin)) OsiExit(-1);
   }
+  UseOwnBuffer(stdin);
   if (verbose) std::printf("Opening project subfile: %s\n", name);
   yyrestart();
   ProcessGILFile(EndOfTopLevel());

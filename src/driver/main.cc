@@ -10,6 +10,7 @@
 int main(int argc, char** argv) {
   OsiEndOnExhaustedMemory();
   HoldStandardStreams();
+  UseOwnBuffer(stdin);
   ParseCommandLine(argc, argv);                // arguments to option flags
   std::FILE* output = OpenOutput();            // before any input, so that a bad name fails early
   TellIfInputIsTerminal();                     // nobody should think that we hang

@@ -10,8 +10,8 @@
 // replaces standard input finds nothing; writing to what replaces the others fails.
 void HoldStandardStreams();
 
-// For a stream just opened that is written in large pieces: past the library's buffer, which would
-// split each piece in two. A wish; without it the stream is only slower.
+// For a stream just opened that is read or written in large pieces: past the library's buffer,
+// which would split each piece in two. A wish; without it the stream is only slower.
 void UseOwnBuffer(std::FILE* stream);
 
 // When a person at a terminal is what standard input reads from, says on standard error what is

@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "gil/scanner.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <array>
 #include <bit>
-#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -80,13 +77,10 @@ void Refill() {
   input.cursor = buffer;
   char* end = buffer + left;
   while (end < buffer + kBufferSize && !input.at_end) {
-    const ssize_t got =
-        read(fileno(stdin), end, static_cast<std::size_t>(buffer + kBufferSize - end));
-    if (got > 0) {
-      end += got;
-    } else if (got == 0 || errno != EINTR) {
-      input.at_end = true;
-    }
+    const auto room = static_cast<std::size_t>(buffer + kBufferSize - end);
+    const std::size_t got = std::fread(end, 1, room, stdin);
+    input.at_end = got < room;
+    end += got;
   }
   *end = '\0';
   input.end = end;
@@ -347,7 +341,10 @@ int32_t yylex() {
   }
 }
 
-void yyrestart() { input = Input(); }
+void yyrestart() {
+  input = Input();
+  std::clearerr(stdin);
+}
 
 void yyerror(const char* message) {
   // A message ends at the first NUL byte of the token, as all texts do.
