@@ -10,7 +10,7 @@
 
 #include "convert/objects.h"
 #include "driver/driver.h"
-#include "driver/options/flags.h"
+#include "flags/flags.h"
 #include "driver/session.h"
 #include "gil/object.h"
 #include "gil/parser.h"
@@ -18,7 +18,7 @@
 #include "layout/geometry.h"
 #include "layout/tiling.h"
 #include "uil/writer.h"
-#include "widget/passes/clean_up.h"
+#include "passes/clean_up.h"
 #include "widget/tree.h"
 
 static const char* input_name = nullptr;

@@ -3,7 +3,7 @@
 
 #include <cctype>
 
-#include "uilfix/files.h"
+#include "uilfix/module_files.h"
 
 namespace view {
 namespace {

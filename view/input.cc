@@ -12,7 +12,7 @@
 #include "compiler.h"
 #include "gil_names.h"
 #include "process.h"
-#include "uilfix/files.h"
+#include "uilfix/module_files.h"
 #include "uilfix/rewrites.h"
 
 namespace view {

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "options.h"
+#include "view_options.h"
 #include "uilfix/module.h"
 
 namespace view {

@@ -5,7 +5,7 @@
 
 #include <ostream>
 
-#include "windows.h"
+#include "view_windows.h"
 
 namespace view {
 

@@ -4,7 +4,7 @@
 #ifndef PANDREL_VIEW_POPUP_MENUS_H
 #define PANDREL_VIEW_POPUP_MENUS_H
 
-#include "windows.h"
+#include "view_windows.h"
 
 namespace view {
 

@@ -6,7 +6,7 @@
 
 #include <string>
 
-#include "windows.h"
+#include "view_windows.h"
 
 namespace view {
 

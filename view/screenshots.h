@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <functional>
 
-#include "windows.h"
+#include "view_windows.h"
 
 namespace view {
 

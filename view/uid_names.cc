@@ -7,7 +7,7 @@
 #include <cctype>
 #include <set>
 
-#include "uilfix/files.h"
+#include "uilfix/module_files.h"
 #include "uilfix/reserved_words.h"
 #include "widget_tree.h"
 

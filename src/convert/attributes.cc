@@ -5,12 +5,12 @@
 
 #include "convert/label_type.h"
 #include "convert/std_attributes.h"
-#include "driver/options/flags.h"
+#include "flags/flags.h"
 #include "gil/object.h"
 #include "gil/tokens.h"
 #include "gil/value.h"
 #include "osi/strings.h"
-#include "uil/text/strings.h"
+#include "text/uil_text.h"
 #include "widget/tree.h"
 
 // A handler gets the object, its widget, and one attribute with the value's number and text: what

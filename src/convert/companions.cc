@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "convert/companions.h"
 
-#include "uil/text/strings.h"
+#include "text/uil_text.h"
 #include "widget/tree.h"
 
 Widg* MakeNamedAfter(FixedText class_name, const Widg* widg, const char* suffix) {

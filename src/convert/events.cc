@@ -3,7 +3,7 @@
 
 #include <cstdio>
 
-#include "driver/options/flags.h"
+#include "flags/flags.h"
 #include "osi/strings.h"
 #include "widget/tree.h"
 

@@ -3,11 +3,11 @@
 
 #include <cstdio>
 
-#include "driver/options/flags.h"
+#include "flags/flags.h"
 #include "gil/object.h"
 #include "gil/tokens.h"
 #include "gil/value.h"
-#include "uil/text/strings.h"
+#include "text/uil_text.h"
 #include "widget/climb.h"
 #include "widget/links.h"
 #include "widget/resources.h"

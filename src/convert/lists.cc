@@ -6,13 +6,13 @@
 #include <cstring>
 
 #include "convert/companions.h"
-#include "driver/options/flags.h"
+#include "flags/flags.h"
 #include "gil/object.h"
 #include "gil/tokens.h"
 #include "gil/value.h"
 #include "osi/arena.h"
 #include "osi/fatal.h"
-#include "uil/text/strings.h"
+#include "text/uil_text.h"
 #include "widget/links.h"
 #include "widget/resources.h"
 #include "widget/tree.h"

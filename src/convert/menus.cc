@@ -9,7 +9,7 @@
 #include "gil/object.h"
 #include "gil/tokens.h"
 #include "gil/value.h"
-#include "uil/text/strings.h"
+#include "text/uil_text.h"
 #include "widget/copy.h"
 #include "widget/links.h"
 #include "widget/resources.h"

@@ -6,7 +6,7 @@
 #include "gil/tokens.h"
 #include "gil/value.h"
 #include "osi/wrap.h"
-#include "uil/text/strings.h"
+#include "text/uil_text.h"
 #include "widget/links.h"
 #include "widget/resources.h"
 #include "widget/tree.h"

@@ -2,11 +2,11 @@
 #include "convert/windows.h"
 
 #include "convert/companions.h"
-#include "driver/options/flags.h"
+#include "flags/flags.h"
 #include "gil/object.h"
 #include "gil/tokens.h"
 #include "gil/value.h"
-#include "uil/text/strings.h"
+#include "text/uil_text.h"
 #include "widget/callbacks.h"
 #include "widget/links.h"
 #include "widget/resources.h"

@@ -5,7 +5,7 @@
 
 #include "convert/actions.h"
 #include "convert/objects.h"
-#include "driver/options/flags.h"
+#include "flags/flags.h"
 #include "driver/standard_streams.h"
 #include "gil/object.h"
 #include "gil/parser.h"
@@ -13,10 +13,10 @@
 #include "gil/tokens.h"
 #include "gil/value.h"
 #include "osi/fatal.h"
-#include "uil/text/strings.h"
+#include "text/uil_text.h"
 #include "widget/links.h"
 #include "widget/name_index.h"
-#include "widget/passes/clean_up.h"
+#include "passes/clean_up.h"
 #include "widget/tree.h"
 
 std::FILE* OpenOutput() {

@@ -2,13 +2,13 @@
 #include "driver/session.h"
 
 #include "convert/lists.h"
-#include "driver/options/flags.h"
+#include "flags/flags.h"
 #include "gil/parser.h"
 #include "gil/scanner.h"
 #include "gil/version.h"
 #include "osi/arena.h"
-#include "uil/text/name_table.h"
-#include "uil/text/strings.h"
+#include "names/name_table.h"
+#include "text/uil_text.h"
 #include "widget/procedures.h"
 #include "widget/tree.h"
 

@@ -6,7 +6,7 @@
 
 #include <cstdio>
 
-#include "driver/options/flags.h"
+#include "flags/flags.h"
 #include "osi/fatal.h"
 
 void HoldStandardStreams() {

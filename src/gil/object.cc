@@ -9,7 +9,7 @@
 #include "gil/tokens.h"
 #include "osi/arena.h"
 #include "osi/fatal.h"
-#include "uil/text/strings.h"
+#include "text/uil_text.h"
 
 // There is no way on without the record.
 [[noreturn]] static void OutOfMemory(const char* message) {

@@ -10,12 +10,12 @@
 #include <cstring>
 #include <string>
 
-#include "driver/options/flags.h"
+#include "flags/flags.h"
 #include "glyph/shell_words.h"
 #include "osi/arena.h"
 #include "osi/paths.h"
 #include "osi/strings.h"
-#include "uil/text/strings.h"
+#include "text/uil_text.h"
 
 char* JustFilename(const char* path) {
   if (!path) path = "";

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "osi/wrap.h"
-#include "uil/text/strings.h"
+#include "text/uil_text.h"
 #include "widget/tree.h"
 
 // How much more room than its OPEN LOOK counterpart a control takes.

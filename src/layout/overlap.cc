@@ -7,7 +7,7 @@
 #include "layout/tiling.h"
 #include "osi/arena.h"
 #include "osi/wrap.h"
-#include "uil/text/strings.h"
+#include "text/uil_text.h"
 #include "widget/tree.h"
 
 bool IsClose(int32_t a, int32_t b) { return std::abs(static_cast<int64_t>(WrapSub(a, b))) < 10; }

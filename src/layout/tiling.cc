@@ -5,7 +5,7 @@
 
 #include "layout/geometry.h"
 #include "osi/wrap.h"
-#include "uil/text/strings.h"
+#include "text/uil_text.h"
 #include "widget/resources.h"
 #include "widget/walk.h"
 

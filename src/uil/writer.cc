@@ -5,10 +5,10 @@
 #include <string_view>
 #include <vector>
 
-#include "driver/options/flags.h"
+#include "flags/flags.h"
 #include "osi/io_buffer.h"
 #include "osi/strings.h"
-#include "uil/text/name_table.h"
+#include "names/name_table.h"
 #include "widget/procedures.h"
 #include "widget/tree.h"
 

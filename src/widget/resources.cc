@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include "osi/wrap.h"
-#include "uil/text/strings.h"
+#include "text/uil_text.h"
 #include "widget/tree.h"
 
 static void CopyResource(const Widg* from, FixedText name, Widg* to) {

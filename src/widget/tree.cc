@@ -5,8 +5,8 @@
 
 #include "osi/arena.h"
 #include "osi/strings.h"
-#include "uil/text/name_table.h"
-#include "uil/text/strings.h"
+#include "names/name_table.h"
+#include "text/uil_text.h"
 #include "widget/callbacks.h"
 #include "widget/links.h"
 #include "widget/name_index.h"

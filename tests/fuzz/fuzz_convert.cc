@@ -12,7 +12,7 @@
 
 #include "confinement.h"
 #include "driver/driver.h"
-#include "driver/options/command_line.h"
+#include "driver/command_line.h"
 #include "gil_mutator.h"
 #include "session.h"
 #include "uil/writer.h"

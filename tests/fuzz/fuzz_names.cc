@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "osi/arena.h"
-#include "uil/text/name_table.h"
+#include "names/name_table.h"
 
 namespace {
 

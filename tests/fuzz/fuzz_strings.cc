@@ -12,7 +12,7 @@
 #include "osi/numbers.h"
 #include "osi/strings.h"
 #include "osi/trim.h"
-#include "uil/text/strings.h"
+#include "text/uil_text.h"
 
 namespace {
 

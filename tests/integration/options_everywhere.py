@@ -13,7 +13,7 @@ def options(path, pattern):
 
 
 def main():
-    known = options("src/driver/options/command_line.cc", r'"-([a-zA-Z][\w]*)"')
+    known = options("src/driver/command_line.cc", r'"-([a-zA-Z][\w]*)"')
     places = {
         "completions/pandrel.bash": options("integration/completions/pandrel.bash", r"(?<=\s)-([a-zA-Z][\w]*)(?=[\s'])"),
         "completions/pandrel.zsh": options("integration/completions/pandrel.zsh", r"-([a-zA-Z]\w*)-?\["),

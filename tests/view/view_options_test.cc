@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "options.h"
+#include "view_options.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

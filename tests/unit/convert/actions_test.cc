@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "convert/item_finder.h"
-#include "driver/options/flags.h"
+#include "flags/flags.h"
 #include "unit/support/fatal_end.h"
 #include "unit/support/gil_objects.h"
 #include "unit/support/session_fixture.h"

@@ -6,7 +6,7 @@
 #include <cstdio>
 #include <string>
 
-#include "driver/options/flags.h"
+#include "flags/flags.h"
 #include "unit/support/session_fixture.h"
 #include "unit/support/stream_capture.h"
 #include "unit/support/widgets.h"

@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "driver/options/flags.h"
+#include "flags/flags.h"
 #include "unit/support/gil_objects.h"
 #include "unit/support/session_fixture.h"
 #include "unit/support/widgets.h"

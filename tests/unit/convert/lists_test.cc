@@ -6,7 +6,7 @@
 #include <initializer_list>
 #include <string>
 
-#include "driver/options/flags.h"
+#include "flags/flags.h"
 #include "unit/support/check_widg_tree.h"
 #include "unit/support/fatal_end.h"
 #include "unit/support/gil_objects.h"

@@ -8,13 +8,13 @@
 #include <string>
 #include <string_view>
 
-#include "driver/options/flags.h"
+#include "flags/flags.h"
 #include "unit/support/check_widg_tree.h"
 #include "unit/support/fatal_end.h"
 #include "unit/support/gil_objects.h"
 #include "unit/support/session_fixture.h"
 #include "unit/support/widgets.h"
-#include "widget/passes/clean_up.h"
+#include "passes/clean_up.h"
 #include "widget/search.h"
 #include "widget/tree.h"
 

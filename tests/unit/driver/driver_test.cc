@@ -9,7 +9,7 @@
 #include <cstring>
 #include <string>
 
-#include "driver/options/flags.h"
+#include "flags/flags.h"
 #include "gil/object.h"
 #include "gil/parser.h"
 #include "gil/tokens.h"

@@ -4,12 +4,12 @@
 #include <string>
 
 #include "driver/driver.h"
-#include "driver/options/flags.h"
+#include "flags/flags.h"
 #include "gil/parser.h"
 #include "gil/scanner.h"
 #include "gil/version.h"
-#include "uil/text/name_table.h"
-#include "uil/text/strings.h"
+#include "names/name_table.h"
+#include "text/uil_text.h"
 #include "uil/writer.h"
 #include "unit/support/session_fixture.h"
 #include "widget/procedures.h"

@@ -7,7 +7,7 @@
 
 #include <cstdio>
 
-#include "driver/options/flags.h"
+#include "flags/flags.h"
 #include "unit/support/session_fixture.h"
 
 using StandardStreamsTest = SessionFixture;

@@ -8,7 +8,7 @@
 #include <filesystem>
 #include <string>
 
-#include "driver/options/flags.h"
+#include "flags/flags.h"
 #include "osi/arena.h"
 #include "unit/osi/surroundings.h"
 #include "unit/support/fatal_end.h"

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "layout/geometry.h"
-#include "uil/text/strings.h"
+#include "text/uil_text.h"
 #include "unit/support/session_fixture.h"
 #include "unit/support/widgets.h"
 #include "widget/copy.h"

@@ -4,7 +4,7 @@
 #include <cstddef>
 
 #include "osi/arena.h"
-#include "uil/text/strings.h"
+#include "text/uil_text.h"
 #include "widget/links.h"
 #include "widget/procedures.h"
 

@@ -4,8 +4,8 @@
 #include <cstdio>
 #include <string>
 
-#include "driver/options/flags.h"
-#include "uil/text/name_table.h"
+#include "flags/flags.h"
+#include "names/name_table.h"
 #include "unit/support/session_fixture.h"
 #include "widget/callbacks.h"
 #include "widget/procedures.h"

@@ -9,13 +9,13 @@
 #include <string>
 #include <vector>
 
-#include "driver/options/flags.h"
+#include "flags/flags.h"
 #include "unit/support/session_fixture.h"
 #include "unit/support/widgets.h"
 #include "widget/copy.h"
 #include "widget/links.h"
 #include "widget/name_index.h"
-#include "widget/passes/clean_up.h"
+#include "passes/clean_up.h"
 #include "widget/search.h"
 #include "widget/tree.h"
 

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include "uilfix/uilfix_options.h"
+
+#include <gtest/gtest.h>
+
+#include "uilfix/rewrites.h"
+
+namespace uilfix {
+namespace {
+
+using Action = Options::Action;
+
+TEST(Options, DefaultsToStandardStreamsAndEveryRewrite) {
+  const Options options = ParseOptions({});
+  EXPECT_EQ(options.action, Action::kFix);
+  EXPECT_EQ(options.input, "");
+  EXPECT_EQ(options.output, "");
+  EXPECT_FALSE(options.quiet);
+  EXPECT_TRUE(options.off.empty());
+}
+
+TEST(Options, TakesFilesAndSwitches) {
+  const Options options =
+      ParseOptions({"-q", "--no-lines", "in.uil", "-o", "out.uil", "--no-names"});
+  EXPECT_EQ(options.input, "in.uil");
+  EXPECT_EQ(options.output, "out.uil");
+  EXPECT_TRUE(options.quiet);
+  EXPECT_EQ(options.off, (std::set<std::string, std::less<>>{"lines", "names"}));
+  EXPECT_EQ(ParseOptions({"--", "-odd"}).input, "-odd");
+  EXPECT_EQ(ParseOptions({"-"}).input, "-");
+}
+
+TEST(Options, OnlySwitchesTheOthersOff) {
+  const Options options = ParseOptions({"--only=lines,names"});
+  EXPECT_EQ(options.off.size(), Rewrites().size() - 2);
+  EXPECT_FALSE(options.off.contains("lines"));
+  EXPECT_FALSE(options.off.contains("names"));
+}
+
+TEST(Options, InformativeActions) {
+  EXPECT_EQ(ParseOptions({"--help"}).action, Action::kHelp);
+  EXPECT_EQ(ParseOptions({"--version"}).action, Action::kVersion);
+  EXPECT_EQ(ParseOptions({"--list"}).action, Action::kList);
+  for (const Rewrite& rewrite : Rewrites()) {
+    EXPECT_NE(HelpText().find("  " + std::string(rewrite.name) + " "), std::string::npos);
+  }
+}
+
+TEST(Options, Mistakes) {
+  EXPECT_EQ(ParseOptions({"--nonsense"}).error, "unknown option: --nonsense");
+  EXPECT_EQ(ParseOptions({"--no-such"}).error, "no such rewrite: such");
+  EXPECT_EQ(ParseOptions({"--only=lines,such"}).error, "no such rewrite: such");
+  EXPECT_EQ(ParseOptions({"a", "b"}).error, "more than one input: b");
+  EXPECT_EQ(ParseOptions({"-o"}).error, "-o needs a file name");
+}
+
+}  // namespace
+}  // namespace uilfix
