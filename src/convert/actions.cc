@@ -4,7 +4,6 @@
 #include <cstdio>
 
 #include "convert/events.h"
-#include "convert/item_finder.h"
 #include "flags/flags.h"
 #include "gil/object.h"
 #include "gil/tokens.h"
@@ -122,9 +121,9 @@ void AddCallbackForDefinedAction(Widg* widg, const Value* when, const Value* to,
 }
 
 void AddCallbackForCallFunction(Widg* widg, const Value* when, const Value* action) {
-  if (!action) return;
+  // Asked for even without an action, since the event may be one to note.
   const char* callback_name = MapActionToCallback(widg, ValueText(when));
-  if (callback_name) AddCallback(widg, callback_name, ValueText(action), "");
+  if (callback_name && action) AddCallback(widg, callback_name, ValueText(action), "");
 }
 
 static bool IsPredefined(const Value* function_type) {
@@ -158,17 +157,22 @@ void ProcessAction(Widg* widg, const Action* action) {
   }
 }
 
-Widg* LocateFromWidg(Widg* widg, ItemFinder* items, const Action* action) {
-  const Value* from = LastValue(action->from);
-  if (!from || OsiStrcmp(ValueText(from), widg->gil_name) == 0) return widg;
-  Widg* item = items->Find(ValueText(from));
-  return item ? item : widg;
+Widg* LocateFromWidg(Widg* widg, const Action* action) {
+  if (!action->from) return widg;
+  const char* name = ValueText(LastValue(action->from));
+  if (OsiStrcmp(name, widg->gil_name) == 0) return widg;
+  for (Widg* item = widg->child; item; item = item->next) {
+    if (OsiStrcmp(GetResourceValue(item, "XmNlabelString"), name) == 0 ||
+        OsiStrcmp(GetResourceValue(item, "XmNoriginalPixmapName"), name) == 0) {
+      return item;
+    }
+  }
+  return widg;
 }
 
 void ProcessActionsForWidg(Widg* widg) {
-  ItemFinder items(widg);
   for (const Action* action = widg->actions; action; action = action->next) {
-    ProcessAction(LocateFromWidg(widg, &items, action), action);
+    ProcessAction(LocateFromWidg(widg, action), action);
   }
 }
 

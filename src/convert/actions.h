@@ -6,7 +6,6 @@
 #ifndef PANDREL_CONVERT_ACTIONS_H
 #define PANDREL_CONVERT_ACTIONS_H
 
-class ItemFinder;
 struct Action;
 struct Value;
 struct Widg;
@@ -18,8 +17,8 @@ void ProcessActionsForWidgHierarchy(Widg* widg);
 void ProcessActionsForWidg(Widg* widg);
 
 // The widget that the action comes from: the widget itself, or the first of its children whose
-// label or glyph is the last name of FROM (an item of a setting or a menu). `items` finds those.
-Widg* LocateFromWidg(Widg* widg, ItemFinder* items, const Action* action);
+// label or glyph is the last name of FROM (an item of a setting or a menu).
+Widg* LocateFromWidg(Widg* widg, const Action* action);
 
 // Converts one action of the widget; nothing happens for null.
 void ProcessAction(Widg* widg, const Action* action);

@@ -9,6 +9,7 @@
 #include "gil/object.h"
 #include "gil/tokens.h"
 #include "gil/value.h"
+#include "osi/fatal.h"
 #include "osi/strings.h"
 #include "text/uil_text.h"
 #include "widget/tree.h"

@@ -4,7 +4,7 @@
 #include "text/uil_text.h"
 #include "widget/tree.h"
 
-Widg* MakeNamedAfter(FixedText class_name, const Widg* widg, const char* suffix) {
+Widg* MakeNamedAfter(const char* class_name, const Widg* widg, const char* suffix) {
   return MakeWidg(class_name, MergeStrings(widg->gil_name, suffix));
 }
 

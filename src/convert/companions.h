@@ -3,12 +3,10 @@
 #ifndef PANDREL_CONVERT_COMPANIONS_H
 #define PANDREL_CONVERT_COMPANIONS_H
 
-#include "osi/fixed_text.h"
-
 struct Widg;
 
 // A new widget named from the GIL name of another and a suffix.
-Widg* MakeNamedAfter(FixedText class_name, const Widg* widg, const char* suffix);
+Widg* MakeNamedAfter(const char* class_name, const Widg* widg, const char* suffix);
 
 // The wrapper takes the widget's place among its siblings; the widget's `next` is cleared. Neither
 // is in a list yet.

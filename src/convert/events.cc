@@ -18,7 +18,7 @@ enum Answer {
 
 struct EventRow {
   const char* event;
-  FixedText class_name;  // empty: any other
+  const char* class_name;  // empty: any other
   Answer answer;
   const char* callback_name;
 };
@@ -89,8 +89,7 @@ static void Note(Answer answer, const Widg* widg, const char* when) {
 
 static const EventRow* FindRow(const Widg* widg, const char* when) {
   for (const EventRow& row : kEvents) {
-    if (OsiStrcmp(when, row.event) == 0 &&
-        (row.class_name.empty() || IsClass(widg, row.class_name))) {
+    if (OsiStrcmp(when, row.event) == 0 && (!*row.class_name || IsClass(widg, row.class_name))) {
       return &row;
     }
   }

@@ -7,7 +7,7 @@
 #include "gil/object.h"
 #include "gil/tokens.h"
 #include "gil/value.h"
-#include "text/uil_text.h"
+#include "osi/fatal.h"
 #include "widget/climb.h"
 #include "widget/links.h"
 #include "widget/resources.h"

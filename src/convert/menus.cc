@@ -9,7 +9,7 @@
 #include "gil/object.h"
 #include "gil/tokens.h"
 #include "gil/value.h"
-#include "text/uil_text.h"
+#include "osi/fatal.h"
 #include "widget/copy.h"
 #include "widget/links.h"
 #include "widget/resources.h"
@@ -49,7 +49,7 @@ static void StepItems(ItemLists* lists) {
 
 // The menu as a user of the class `wanted` gets it: the widget itself, or a copy when one of the
 // class `other` has claimed it.
-static Widg* ClaimMenu(Widg* menu, FixedText wanted, FixedText other) {
+static Widg* ClaimMenu(Widg* menu, const char* wanted, const char* other) {
   if (IsClass(menu, other)) menu = CopyWidgTree(menu);
   menu->class_name = wanted;
   return menu;
@@ -65,7 +65,7 @@ static void SetSubMenu(Widg* item, const Value* submenu) {
     std::printf("Cannot find pullright menu %s, ignoring...\n", name);
     return;
   }
-  ClaimChild(item, ClaimPulldown(menu));
+  SetChildren(item, ClaimPulldown(menu));
   item->class_name = "XmCascadeButton";
 }
 
@@ -75,8 +75,7 @@ static Widg* MakeItem(const Widg* menu, int32_t menu_type, const ItemLists& item
     std::fprintf(stderr, "***Unknown menu type: %d\n", static_cast<int>(menu_type));
     return nullptr;
   }
-  Widg* widg = MakeNamedAfter(toggles ? FixedText("XmToggleButton") : FixedText("XmPushButton"),
-                              menu, "choice");
+  Widg* widg = MakeNamedAfter(toggles ? "XmToggleButton" : "XmPushButton", menu, "choice");
   HandleWidgLabelAndType(widg, item.label, item.label_type);
   if (ValueToken(item.state, ACTIVE) == INACTIVE) AddResource(widg, "XmNsensitive", "false");
   if (toggles && ValueToken(item.selected, NIL) == T) AddResource(widg, "XmNset", "true");
@@ -119,7 +118,7 @@ Widg* MakeMenuButton(Obj* /*obj*/, Widg* button, const Value* menuValue) {
     button->class_name = "XmPushButton";
     return button;
   }
-  ClaimChild(button, ClaimPulldown(menu));
+  SetChildren(button, ClaimPulldown(menu));
   TakePlace(bar, button);
   SetChildren(bar, button);
   MovePositionResources(button, bar);

@@ -17,7 +17,7 @@ static constexpr int32_t kVerticalSpacing = 3;
 // The width of a vertical scale: its slider width is its height.
 static constexpr int32_t kVerticalScaleWidth = 20;
 
-static Widg* MakeCompanion(FixedText class_name, const Widg* widg, const char* suffix) {
+static Widg* MakeCompanion(const char* class_name, const Widg* widg, const char* suffix) {
   return MakeWidg(class_name, MergeStrings(widg->name, suffix));
 }
 
@@ -37,7 +37,7 @@ static Widg* WrapInRowColumn(Obj* obj, Widg* label, Widg* widg) {
   return rc;
 }
 
-static void SetFromAttr(Obj* obj, int32_t name, Widg* widg, FixedText resource) {
+static void SetFromAttr(Obj* obj, int32_t name, Widg* widg, const char* resource) {
   char* text = nullptr;
   if (GetAttrValueString(obj, name, &text, 0)) AddResource(widg, resource, text);
 }
@@ -74,7 +74,7 @@ static void SetControlWidth(Obj* obj, Widg* widg) {
   AddResource(widg, "XmNwidth", IntToString(width));
 }
 
-static void CopyIfSet(const Widg* from, FixedText name, Widg* to) {
+static void CopyIfSet(const Widg* from, const char* name, Widg* to) {
   if (HasResource(from, name)) AddResource(to, name, GetResourceValue(from, name));
 }
 

@@ -17,14 +17,14 @@
 #include "gil/tokens.h"
 #include "gil/value.h"
 #include "layout/geometry.h"
-#include "text/uil_text.h"
+#include "osi/fatal.h"
 #include "widget/links.h"
 #include "widget/resources.h"
 #include "widget/tree.h"
 
 struct ClassRow {
   int32_t type;
-  FixedText class_name;
+  const char* class_name;
 };
 
 // Types that are not listed, such as terminals and drop targets, have no widget.
@@ -45,7 +45,7 @@ static const ClassRow kClasses[] = {
     {GROUP, "XmBulletinBoard"},
 };
 
-FixedText GilObjToMotifClassName(Obj* obj) {
+const char* GilObjToMotifClassName(Obj* obj) {
   Value* menu = nullptr;
   if (obj->type == BUTTON && GetAttrValue(obj, MENU, &menu, 0) && IsStringValue(menu)) {
     return "XmCascadeButton";
@@ -116,7 +116,6 @@ Widg* SpecialProcessing(Obj* obj, Widg* widg, Widg* /*parent*/) {
 
 // Makes the object's widget and converts its attributes.
 static Widg* BeginObj(Obj* obj) {
-  FetchAhead(obj->children ? obj->children : obj->next);
   char* name = nullptr;
   if (!GetAttrValueString(obj, NAME, &name, 1)) Error("Obj does not have a name");
   Widg* widg = MakeWidg(GilObjToMotifClassName(obj), name);
@@ -145,22 +144,24 @@ Widg* ProcessObj(Obj* obj, Widg* parent) {
     Obj* obj;
     Widg* widg;
     Widg* parent;
+    Widg* last_child;  // attached so far
     Obj* next_child;
   };
   std::vector<Frame> open;
-  open.push_back({obj, BeginObj(obj), parent, obj->children});
+  open.push_back({obj, BeginObj(obj), parent, nullptr, obj->children});
   for (;;) {
     Frame& frame = open.back();
     if (Obj* child = frame.next_child) {
       frame.next_child = child->next;
       Widg* child_parent = frame.widg;
-      open.push_back({child, BeginObj(child), child_parent, child->children});
+      open.push_back({child, BeginObj(child), child_parent, nullptr, child->children});
       continue;
     }
     const Frame done = frame;
     open.pop_back();
     Widg* result = EndObj(done.obj, done.widg, done.parent);
     if (open.empty()) return result;
-    if (result) AddChildWidg(open.back().widg, result);
+    Frame& owner = open.back();
+    owner.last_child = AddChildBehind(owner.widg, owner.last_child, result);
   }
 }

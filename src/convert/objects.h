@@ -3,8 +3,6 @@
 #ifndef PANDREL_CONVERT_OBJECTS_H
 #define PANDREL_CONVERT_OBJECTS_H
 
-#include "osi/fixed_text.h"
-
 struct Obj;
 struct Widg;
 
@@ -17,7 +15,7 @@ struct Widg;
 Widg* ProcessObj(Obj* obj, Widg* parent);
 
 // The Motif class for the object; the empty string when it has no widget of its own. Never null.
-FixedText GilObjToMotifClassName(Obj* obj);
+const char* GilObjToMotifClassName(Obj* obj);
 
 // Expands the widget of the object into what Motif needs for it; returns the widget that now stands
 // for the object, null for a dropped group.

@@ -7,6 +7,7 @@
 #include "gil/object.h"
 #include "gil/tokens.h"
 #include "gil/value.h"
+#include "osi/fatal.h"
 #include "text/uil_text.h"
 #include "widget/callbacks.h"
 #include "widget/tree.h"
@@ -33,16 +34,15 @@ char* MakeColorVal(const char* text) {
 }
 
 char* MakeWidgetAttachment(const Widg* widg) {
-  return JoinTexts(widg->class_name.text(), " ", widg->name,
-                   "Out of memory in MakeWidgetAttachment");
+  return JoinTexts(widg->class_name, " ", widg->name, "Out of memory in MakeWidgetAttachment");
 }
 
-static void SetColor(Widg* widg, FixedText resource, const Value* color) {
+static void SetColor(Widg* widg, const char* resource, const Value* color) {
   if (HasGilText(color)) AddResource(widg, resource, MakeColorVal(ValueText(color)));
 }
 
 // Messages size themselves for Motif's fonts; the layout still knows the size from the fields.
-static void SetSize(const Obj* obj, Widg* widg, FixedText resource, int32_t size) {
+static void SetSize(const Obj* obj, Widg* widg, const char* resource, int32_t size) {
   if (obj->type == MESSAGE && reposition) return;
   AddResource(widg, resource, IntToString(size));
 }

@@ -6,17 +6,14 @@
 #include "convert/actions.h"
 #include "convert/objects.h"
 #include "flags/flags.h"
-#include "driver/standard_streams.h"
 #include "gil/object.h"
 #include "gil/parser.h"
 #include "gil/scanner.h"
 #include "gil/tokens.h"
 #include "gil/value.h"
 #include "osi/fatal.h"
-#include "text/uil_text.h"
-#include "widget/links.h"
-#include "widget/name_index.h"
 #include "passes/clean_up.h"
+#include "widget/links.h"
 #include "widget/tree.h"
 
 std::FILE* OpenOutput() {
@@ -26,7 +23,6 @@ std::FILE* OpenOutput() {
     std::printf("Warning: Cannot open file %s for writing", outfile);
     OsiExit(-1);
   }
-  UseOwnBuffer(output);
   return output;
 }
 
@@ -60,7 +56,6 @@ Obj* PutMenusFirst(Obj* objects) {
 Widg* ConvertObjHierToWidgHier(Obj* objects, Widg** listLink) {
   Widg* last = nullptr;
   for (Obj* obj = objects; obj; obj = obj->next) {
-    NameIndexNewUnit();
     Widg* widg = ProcessObj(obj, nullptr);
     if (obj->type == GROUP) continue;
     LinkTopLevel(last && *listLink ? &last->next : listLink, widg);
@@ -71,7 +66,6 @@ Widg* ConvertObjHierToWidgHier(Obj* objects, Widg** listLink) {
 
 Widg* ProcessGILFile(Widg** listLink) {
   Obj* objects = PutMenusFirst(ParseGILFile());
-  NameIndexNewFile();
   *listLink = ConvertObjHierToWidgHier(objects, listLink);
   RelinkTopLevel(listLink, CleanUpTopLevelHierarchy(listLink));
   return *listLink;
@@ -90,7 +84,6 @@ static void ProcessInterface(const char* name) {
     // The stream is closed now; what it yields must be nothing, not a fault.
     if (!std::freopen("/dev/null", "r", stdin)) OsiExit(-1);
   }
-  UseOwnBuffer(stdin);
   if (verbose) std::printf("Opening project subfile: %s\n", name);
   yyrestart();
   ProcessGILFile(EndOfTopLevel());

@@ -6,8 +6,8 @@
 #include "gil/parser.h"
 #include "gil/scanner.h"
 #include "gil/version.h"
-#include "osi/arena.h"
 #include "names/name_table.h"
+#include "osi/arena.h"
 #include "text/uil_text.h"
 #include "widget/procedures.h"
 #include "widget/tree.h"
@@ -15,7 +15,6 @@
 void ResetSession() {
   ResetFlags();
   ResetScanner();
-  ResetValues();
   ResetParser();
   ResetVersion();
   ResetTree();

@@ -18,8 +18,6 @@ void HoldStandardStreams() {
   }
 }
 
-void UseOwnBuffer(std::FILE* stream) { std::setvbuf(stream, nullptr, _IONBF, 0); }
-
 void TellIfInputIsTerminal() {
   if (verbose && isatty(STDIN_FILENO)) {
     std::fputs("pandrel: reading a GIL file from the terminal; pandrel -help lists the options\n",

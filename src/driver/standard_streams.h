@@ -3,16 +3,10 @@
 #ifndef PANDREL_DRIVER_STANDARD_STREAMS_H
 #define PANDREL_DRIVER_STANDARD_STREAMS_H
 
-#include <cstdio>
-
 // Puts something in the place of standard streams that were closed by whoever started us: else the
 // next file opened would get their numbers, and notes would go into the module. Reading from what
 // replaces standard input finds nothing; writing to what replaces the others fails.
 void HoldStandardStreams();
-
-// For a stream just opened that is read or written in large pieces: past the library's buffer,
-// which would split each piece in two. A wish; without it the stream is only slower.
-void UseOwnBuffer(std::FILE* stream);
 
 // When a person at a terminal is what standard input reads from, says on standard error what is
 // expected; not when `verbose` is cleared.

@@ -4,10 +4,10 @@
 #include <cstdio>
 #include <vector>
 
-#include "gil/keywords.h"
 #include "gil/object.h"
 #include "gil/scanner.h"
 #include "gil/tokens.h"
+#include "gil/words.h"
 
 static int32_t depth = 0;
 

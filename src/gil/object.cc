@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "gil/object.h"
 
-#include <array>
 #include <cstdio>
 #include <cstring>
 
@@ -17,9 +16,6 @@
   OsiExit(-1);
 }
 
-// By their last bits, the numbers last asked for: mostly one of them comes again.
-static std::array<Value*, 256> last_numbers;
-
 Value* createValue(int32_t kind) {
   auto* value = ArenaNew<Value>();
   if (!value) OutOfMemory("Out of memory allocating a Value");
@@ -33,20 +29,9 @@ Value* tokenValue(int32_t token) {
   return value;
 }
 
-Value* loneTokenValue(int32_t token) {
-  if (token < kFirstToken || token > kLastToken) return tokenValue(token);
-  static std::array<Value, kLastToken - kFirstToken + 1> tokens;
-  Value& value = tokens[static_cast<std::size_t>(token - kFirstToken)];
-  value.ival = token;
-  return &value;
-}
-
 Value* intValue(int32_t number) {
-  Value*& value = last_numbers[static_cast<uint32_t>(number) % last_numbers.size()];
-  if (!value || value->ival != number) {
-    value = createValue(kIntegerValue);
-    value->ival = number;
-  }
+  Value* value = createValue(kIntegerValue);
+  value->ival = number;
   return value;
 }
 
@@ -78,26 +63,21 @@ Action* makeAction(Value* from, Value* when, Value* to, Value* functionType, Val
   return action;
 }
 
-// The text of the first attribute of that name; null when there is none or when it is no string.
-static char* AttrText(const Attr* attrs, int32_t name) {
-  for (const Attr* attr = attrs; attr; attr = attr->next) {
-    if (attr->name == name) return attr->value ? attr->value->sval : nullptr;
-  }
-  return nullptr;
-}
-
 Obj* makeObj(int32_t type, Attr* attrs, Action* actions) {
   auto* obj = ArenaNew<Obj>();
   if (!obj) OutOfMemory("Out of memory allocating an object");
   obj->type = type;
   obj->attrs = attrs;
   obj->actions = actions;
-  obj->name = AttrText(attrs, NAME);
-  obj->owner = AttrText(attrs, OWNER);
   return obj;
 }
 
-void ResetValues() { last_numbers.fill(nullptr); }
+char* AttrText(const Attr* attrs, int32_t name) {
+  for (const Attr* attr = attrs; attr; attr = attr->next) {
+    if (attr->name == name) return attr->value ? attr->value->sval : nullptr;
+  }
+  return nullptr;
+}
 
 int GetAttrValue(Obj* obj, int32_t name, Value** valueOut, int remove) {
   for (Attr** link = &obj->attrs; *link; link = &(*link)->next) {

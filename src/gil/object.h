@@ -49,23 +49,15 @@ struct Obj {
   Obj* children;
   Attr* attrs;
   Action* actions;
-  // The texts of the first NAME and OWNER attributes, shared with them; null where there is none or
-  // it is no string. Looked up while the attributes were still at hand.
+  // The text of the first NAME attribute as resolveChildren found it, shared with that; null where
+  // there is none or it is no string.
   char* name;
-  char* owner;
 };
 
 // The constructors report exhausted memory through yyerror and end the run with status -1.
 Value* createValue(int32_t kind);
 Value* tokenValue(int32_t token);
-
-// Values that stand alone, not in a list: half of a file's. Nobody writes to them, so one record
-// serves all attributes that have the same token, and many that have the same number.
-Value* loneTokenValue(int32_t token);
 Value* intValue(int32_t number);
-
-// Forgets the numbers that may be shared, before the arena that holds them is emptied.
-void ResetValues();
 
 // A string Value with a private copy of the first `length` bytes of `text`, which end at the first
 // NUL among them. `kind` tells the scanner's identifiers (3) from its strings (1) and is
@@ -77,17 +69,8 @@ Action* makeAction(Value* from, Value* when, Value* to, Value* functionType, Val
                    Value* actionName);
 Obj* makeObj(int32_t type, Attr* attrs, Action* actions);
 
-// Asks the processor to bring the object and its attributes nearer, which are about to be read;
-// null is allowed. They were made one after the other, the object last, so they lie just before it.
-inline void FetchAhead(const Obj* obj) {
-  if (!obj) return;
-  constexpr std::ptrdiff_t kLine = 64;
-  constexpr std::ptrdiff_t kOrdinaryObject = 1024;
-  const auto* end = reinterpret_cast<const char*>(obj + 1);
-  for (std::ptrdiff_t before = 0; before <= kOrdinaryObject; before += kLine) {
-    __builtin_prefetch(end - before);
-  }
-}
+// The text of the first attribute of that name, shared; null when there is none or it is no string.
+char* AttrText(const Attr* attrs, int32_t name);
 
 // Finds the object's first attribute of that name. 0 when there is none; else stores its value
 // (null for an empty list) in *valueOut, unlinks the attribute when `remove` is set, and returns 1.

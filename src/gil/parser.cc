@@ -4,10 +4,10 @@
 // Nothing nests deeper than an action's lists, so the size of a file does not show in the stack.
 #include "gil/parser.h"
 
-#include "gil/attribute_forms.h"
 #include "gil/scanner.h"
 #include "gil/tokens.h"
 #include "gil/version.h"
+#include "gil/words.h"
 
 Obj* gilFile = nullptr;
 Obj* project = nullptr;
@@ -36,21 +36,21 @@ static bool ParseScalar(int32_t token, Value** out) {
   return true;
 }
 
-// A token that is its own value. `MakeValue` is tokenValue where it becomes an element of a list.
-static bool ParseToken(Value* (*MakeValue)(int32_t), Value** out) {
-  *out = MakeValue(look_ahead);
+// A token that is its own value.
+static bool ParseToken(Value** out) {
+  *out = tokenValue(look_ahead);
   Advance();
   return true;
 }
 
 // name: identifier, string or nil
-static bool ParseName(Value* (*MakeValue)(int32_t), Value** out) {
-  if (look_ahead == NIL) return ParseToken(MakeValue, out);
+static bool ParseName(Value** out) {
+  if (look_ahead == NIL) return ParseToken(out);
   return ParseScalar(IDENTIFIER, out) || ParseScalar(STRING_VALUE, out);
 }
 
-static bool ParseWord(ValueForm enumeration, Value* (*MakeValue)(int32_t), Value** out) {
-  return IsWordOf(enumeration, look_ahead) && ParseToken(MakeValue, out);
+static bool ParseWord(Enumeration enumeration, Value** out) {
+  return IsWordOf(enumeration, look_ahead) && ParseToken(out);
 }
 
 // nameList: "(" ")" or "(" names ")", kept in file order
@@ -59,56 +59,65 @@ static bool ParseNameList(Value** out) {
   Value* head = nullptr;
   Value** end = &head;
   while (!Accept(RPAREN)) {
-    if (!ParseName(tokenValue, end)) return false;
+    if (!ParseName(end)) return false;
     end = &(*end)->next;
   }
   *out = head;
   return true;
 }
 
-// stringList, and the lists of words of an enumeration
-static bool ParseReversedList(ValueForm element, Value** out) {
+// A list of `ParseElement`s, put in front of each other.
+template <typename Parser>
+static bool ParseReversedList(Parser ParseElement, Value** out) {
   if (!Accept(LPAREN)) return false;
   Value* list = nullptr;
   while (!Accept(RPAREN)) {
     Value* value = nullptr;
-    const bool fits = element == kString ? ParseScalar(STRING_VALUE, &value)
-                                         : ParseWord(element, tokenValue, &value);
-    if (!fits) return false;
+    if (!ParseElement(&value)) return false;
     Prepend(value, &list);
   }
   *out = list;
   return true;
 }
 
+static bool ParseStringList(Value** out) {
+  return ParseReversedList([](Value** value) { return ParseScalar(STRING_VALUE, value); }, out);
+}
+
+static bool ParseWordList(Enumeration words, Value** out) {
+  return ParseReversedList([words](Value** value) { return ParseWord(words, value); }, out);
+}
+
 static bool ParseValue(ValueForm form, Value** out) {
-  switch (form) {
-    case kInteger:
+  switch (form.shape) {
+    case kIntegerShape:
       return ParseScalar(INTEGER_VALUE, out);
-    case kString:
+    case kStringShape:
       return ParseScalar(STRING_VALUE, out);
-    case kIntegerOrString:
+    case kIntegerOrStringShape:
       return ParseScalar(INTEGER_VALUE, out) || ParseScalar(STRING_VALUE, out);
-    case kName:
-      return ParseName(loneTokenValue, out);
-    case kNameList:
+    case kNameShape:
+      return ParseName(out);
+    case kNameListShape:
       return ParseNameList(out);
-    case kStringList:
-      return ParseReversedList(kString, out);
-    case kEmptyList:
+    case kStringListShape:
+      return ParseStringList(out);
+    case kEmptyListShape:
       return Accept(LPAREN) && Accept(RPAREN);
-    case kNoForm:
-      return false;
-    default:
-      return ElementForm(form) == kNoForm ? ParseWord(form, loneTokenValue, out)
-                                          : ParseReversedList(ElementForm(form), out);
+    case kWordShape:
+      return ParseWord(form.words, out);
+    case kWordListShape:
+      return ParseWordList(form.words, out);
+    case kNothing:
+      break;
   }
+  return false;
 }
 
 // functionType: ":user_defined", ":CallFunction" or an identifier
 static bool ParseFunctionType(Value** out) {
   if (look_ahead == USER_DEFINED || look_ahead == CALL_FUNCTION) {
-    return ParseToken(loneTokenValue, out);
+    return ParseToken(out);
   }
   return ParseScalar(IDENTIFIER, out);
 }
@@ -125,7 +134,7 @@ static bool ParseAction(Action** out) {
   const bool fits = Accept(LPAREN) && Accept(FROM) && ParseNameList(&from) && Accept(WHEN) &&
                     ParseNameList(&when) && Accept(TO) && ParseNameList(&to) &&
                     Accept(FUNCTION_TYPE) && ParseFunctionType(&function_type) &&
-                    Accept(ARG_TYPE) && ParseReversedList(kArgType, &arg_types) && Accept(ACTION) &&
+                    Accept(ARG_TYPE) && ParseWordList(kArgType, &arg_types) && Accept(ACTION) &&
                     ParseNameList(&action_name) && Accept(RPAREN);
   if (!fits) return false;
   *out = makeAction(from, when, to, function_type, arg_types, action_name);
@@ -150,11 +159,11 @@ static bool ParseAttributeList(Attr** out) {
   Attr* attrs = nullptr;
   do {
     const int32_t keyword = look_ahead;
-    const ValueForm form = AttributeForm(keyword);
-    if (form == kNoForm) return false;
+    const Word* word = WordOfToken(keyword);
+    if (!word || word->value.shape == kNothing) return false;
     Advance();
     Value* value = nullptr;
-    if (!ParseValue(form, &value)) return false;
+    if (!ParseValue(word->value, &value)) return false;
     Prepend(makeAttr(keyword, value), &attrs);
   } while (look_ahead != RPAREN && look_ahead != ACTIONS);
   *out = attrs;
@@ -163,7 +172,7 @@ static bool ParseAttributeList(Attr** out) {
 
 // object: "(" ":type" elementType attributeList [":actions" actionsList] ")"
 static bool ParseObject(Obj** out) {
-  if (!Accept(LPAREN) || !Accept(TYPE) || !IsElementType(look_ahead)) return false;
+  if (!Accept(LPAREN) || !Accept(TYPE) || !IsWordOf(kElementType, look_ahead)) return false;
   const int32_t type = look_ahead;
   Advance();
   Attr* attrs = nullptr;
@@ -199,7 +208,7 @@ static bool ParseProjectAttribute(Attr** out) {
       return true;
     case ROOT_WINDOW:
       Advance();
-      if (!ParseName(loneTokenValue, &value)) return false;
+      if (!ParseName(&value)) return false;
       *out = makeAttr(ROOT_WINDOW, value);
       return true;
     case ACTIONS:

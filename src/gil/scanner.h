@@ -24,9 +24,6 @@ extern int32_t yylineno;
 // What the last IDENTIFIER, STRING_VALUE or INTEGER_VALUE carries.
 extern Value* yylval;
 
-// Whether :string-value has been read, after which two values may have the same text.
-extern bool texts_are_repeated;
-
 // The next token, or 0 at the end of input. Unknown keywords and illegal characters are reported on
 // standard error and skipped; a token over the limit is reported on standard output and ends the
 // run with status 1. A directory or a read error reads as the end of input.
@@ -38,7 +35,7 @@ void yyrestart();
 // Reports `message` with the current line and token on standard error and returns.
 void yyerror(const char* message);
 
-// Forgets the line count, the last value, repeated texts and whatever was read ahead.
+// Forgets the line count, the last value and whatever was read ahead.
 void ResetScanner();
 
 #endif

@@ -13,6 +13,7 @@
 #include "flags/flags.h"
 #include "glyph/shell_words.h"
 #include "osi/arena.h"
+#include "osi/fatal.h"
 #include "osi/paths.h"
 #include "osi/strings.h"
 #include "text/uil_text.h"

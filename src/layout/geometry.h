@@ -14,10 +14,6 @@ struct Widg;
 // moves the children again. A container without children is left alone.
 void FixUpGeometry(Widg* widg);
 
-// Makes the room that each widget of the sibling list needs by a MoveWidgsToFit of its own: what
-// FixUpGeometry must agree with, and slow.
-void MakeRoomOneByOne(Widg* first);
-
 // Shifts every widget of the sibling list by dx to the right, and those whose top lies below
 // `bottom` by dy down. `right` selects nothing: the whole list moves, the widget that needs the
 // room included.

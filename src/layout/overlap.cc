@@ -6,6 +6,7 @@
 #include "layout/geometry.h"
 #include "layout/tiling.h"
 #include "osi/arena.h"
+#include "osi/fatal.h"
 #include "osi/wrap.h"
 #include "text/uil_text.h"
 #include "widget/tree.h"

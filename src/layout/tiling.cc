@@ -39,7 +39,7 @@ int32_t GetPosition(const Widg* widg, int32_t code) {
   }
 }
 
-static void SetExtent(Widg* widg, FixedText name, int32_t start, int32_t end) {
+static void SetExtent(Widg* widg, const char* name, int32_t start, int32_t end) {
   if (end != start) AddResource(widg, name, IntToString(WrapSub(end, start)));
 }
 

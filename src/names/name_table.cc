@@ -2,16 +2,11 @@
 #include "names/name_table.h"
 
 #include <algorithm>
-#include <charconv>
-#include <cstdio>
-#include <cstring>
+#include <cstddef>
 #include <string>
 
-#include "osi/arena.h"
-#include "osi/fatal.h"
 #include "osi/numbers.h"
 #include "osi/strings.h"
-#include "text/uil_text.h"
 
 static const char* const kReservedWords[] = {
     "arguments", "callbacks", "controls", "end", "exported", "false", "gadget", "identifier",
@@ -29,76 +24,65 @@ static NameTable instance_names;
 static bool first_use = true;
 
 NameHandle NameLookup(const NameTable* table, const char* name) {
-  const auto found = table->index.find(name);
+  const auto found = table->index.find(name ? name : "");
   return found == table->index.end() ? kNoName : found->second;
 }
 
-static NameHandle NameEnter(NameTable* table, const char* name, std::size_t length) {
-  char* text = ArenaText(name, length);
-  if (!text) Error("Out of memory in NameCreate");
+static NameHandle NameEnter(NameTable* table, const char* name) {
   const auto handle = static_cast<NameHandle>(table->entries.size());
-  table->entries.push_back({.text = text, .refcount = 1});
-  table->index.emplace(text, handle);
+  table->entries.push_back({OsiOwnedText(OsiStrdup(name)), 1});
+  table->index.emplace(table->entries.back().text.get(), handle);
   return handle;
 }
 
-static bool IsDeleted(const NameTable* table, NameHandle handle) {
-  return table->entries[static_cast<std::size_t>(handle)].refcount < 1;
+static NameEntry& EntryOf(NameTable* table, NameHandle handle) {
+  return table->entries[static_cast<std::size_t>(handle)];
 }
 
 static NameHandle Revive(NameTable* table, NameHandle handle) {
-  ++table->entries[static_cast<std::size_t>(handle)].refcount;
+  ++EntryOf(table, handle).refcount;
   return handle;
 }
 
-// Where the number of that base stands; good until a name is entered. `taken` is the name that was
-// asked for.
-static FirstUntried* UntriedOf(NameTable* table, NameHandle taken, std::string_view base,
-                               bool is_taken_name) {
-  if (is_taken_name) return &table->entries[static_cast<std::size_t>(taken)].untried;
+static int32_t* UntriedNumber(NameTable* table, const char* base) {
   auto untried = table->untried.find(base);
   if (untried == table->untried.end()) {
-    char* text = ArenaText(base.data(), base.size());
-    if (!text) Error("Out of memory in NameCreate");
-    untried = table->untried.emplace(text, 1).first;
+    OsiOwnedText copy(OsiStrdup(base));
+    const std::string_view key = copy.get();
+    untried = table->untried.emplace(key, Untried{std::move(copy)}).first;
   }
-  return &untried.value();
+  return &untried->second.number;
 }
 
 NameHandle NameCreate(NameTable* table, const char* name) {
-  if (!name) name = "";
-  NameHandle found = NameLookup(table, name);
-  if (found == kNoName) return NameEnter(table, name, std::strlen(name));
-  if (IsDeleted(table, found)) return Revive(table, found);
-
-  std::string numbered = name;
-  OsiCutEndDigits(numbered.data());
-  const std::size_t base_length = std::strlen(numbered.c_str());
-  FirstUntried* untried = UntriedOf(table, found, std::string_view(numbered).substr(0, base_length),
-                                    base_length == numbered.size());
-  for (;;) {
-    char digits[12];
-    const char* end = std::to_chars(digits, digits + sizeof digits, (*untried)++).ptr;
-    numbered.replace(base_length, std::string::npos, digits,
-                     static_cast<std::size_t>(end - digits));
-    found = NameLookup(table, numbered.c_str());
-    if (found == kNoName) return NameEnter(table, numbered.c_str(), numbered.size());
-    if (IsDeleted(table, found)) return Revive(table, found);
+  std::string text = name ? name : "";
+  NameHandle found = NameLookup(table, text.c_str());
+  std::string base;
+  int32_t* number = nullptr;
+  while (found != kNoName) {
+    if (EntryOf(table, found).refcount < 1) return Revive(table, found);
+    if (!number) {
+      OsiRemoveEndDigits(text.data());
+      base = text.c_str();
+      number = UntriedNumber(table, base.c_str());
+    }
+    text = base + std::to_string((*number)++);
+    found = NameLookup(table, text.c_str());
   }
+  return NameEnter(table, text.c_str());
 }
 
 char* NameGet(const NameTable* table, NameHandle handle) {
   if (handle < 0 || static_cast<std::size_t>(handle) >= table->entries.size()) return nullptr;
-  return table->entries[static_cast<std::size_t>(handle)].text;
+  return table->entries[static_cast<std::size_t>(handle)].text.get();
 }
 
 void NameDelete(NameTable* table, const char* name) {
   const NameHandle handle = name ? NameLookup(table, name) : kNoName;
   if (handle == kNoName) return;
-  int32_t& refcount = table->entries[static_cast<std::size_t>(handle)].refcount;
+  int32_t& refcount = EntryOf(table, handle).refcount;
   if (refcount > 0) --refcount;
   table->untried.clear();
-  for (NameEntry& entry : table->entries) entry.untried = 1;
 }
 
 NameHandle NameCopy(NameTable* table, const char* name) {
@@ -108,21 +92,18 @@ NameHandle NameCopy(NameTable* table, const char* name) {
 }
 
 int NameInUse(const NameTable* table, NameHandle handle) {
-  return NameGet(table, handle) && !IsDeleted(table, handle);
+  return NameGet(table, handle) && table->entries[static_cast<std::size_t>(handle)].refcount > 0;
 }
 
 int32_t NamePosition(const NameTable* table, const char* name) {
-  return static_cast<int32_t>(
-      std::count_if(table->entries.begin(), table->entries.end(),
-                    [name](const NameEntry& entry) { return OsiStrcmp(entry.text, name) < 0; }));
+  return static_cast<int32_t>(std::count_if(
+      table->entries.begin(), table->entries.end(),
+      [name](const NameEntry& entry) { return OsiStrcmp(entry.text.get(), name) < 0; }));
 }
 
 NameTable* InstanceNameTbl() {
   if (first_use) {
     first_use = false;
-    // Room for an ordinary interface.
-    instance_names.entries.reserve(400);
-    instance_names.index.reserve(400);
     AddUILKeyWordsToTable(&instance_names);
   }
   return &instance_names;
@@ -135,11 +116,6 @@ void AddUILKeyWordsToTable(NameTable* table) {
 const char* GetSetIdentifierLegalChars() { return "_$"; }
 
 const char* GetSetTypeLegalChars() { return "_$.()[]&->:"; }
-
-void SystemErrorHandler() {
-  std::fputs("Sorry, fatal error trying to convert GIL file.\n", stderr);
-  OsiExit(1);
-}
 
 void ResetNameTable() {
   instance_names = NameTable();

@@ -9,31 +9,42 @@
 #define PANDREL_NAMES_NAME_TABLE_H
 
 #include <cstdint>
+#include <functional>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
 #include <vector>
 
-#include "osi/text_map.h"
+#include "osi/owned_text.h"
 
 using NameHandle = int32_t;
 constexpr NameHandle kNoName = -1;
 
-// Below its number every numbered form of a base is in use, so that the search for the lowest free
-// one need not start from 1 again.
-using FirstUntried = int32_t;
-
 struct NameEntry {
-  char* text;                // in the arena; holders may write to it
-  int32_t refcount;          // 0: deleted but remembered
-  FirstUntried untried = 1;  // of the base that the name itself is, or would be
+  OsiOwnedText text;  // holders may write to it
+  int32_t refcount;   // 0: deleted but remembered
 };
 
+// The number of a base from which on its numbered forms have not been tried: all lower ones are in
+// use.
+struct Untried {
+  OsiOwnedText base;
+  int32_t number = 1;
+};
+
+template <typename Mapped>
+using ByText =
+    std::unordered_map<std::string_view, Mapped, std::hash<std::string_view>, std::equal_to<>,
+                       OsiAllocator<std::pair<const std::string_view, Mapped>>>;
+
 struct NameTable {
-  std::vector<NameEntry> entries;  // by handle
-  // Keys are the texts as they were entered. Texts renamed by their holders afterwards are looked
-  // for by nobody: renaming happens only when the module is otherwise complete.
-  TextMap<NameHandle> index;
-  // By base, for names that are not their own base. Forgotten, as those of the entries are,
-  // whenever a name is deleted.
-  TextMap<FirstUntried> untried;
+  std::vector<NameEntry, OsiAllocator<NameEntry>> entries;  // by handle
+  // Keys are the texts as they were entered. A holder renames an instance only once all names are
+  // given out, and where the module is meant for the builder, whose procedures are not compared
+  // with names: nobody looks for a renamed text.
+  ByText<NameHandle> index;
+  // Without it the tenth namesake would cost ten look-ups. Forgotten whenever a name is deleted.
+  ByText<Untried> untried;
 };
 
 // Enters a unique form of `name` (null counts as empty) and returns its handle.
@@ -42,14 +53,13 @@ struct NameTable {
 // are cut off and the first free one of <base>1, <base>2, ... is entered:
 //   button (taken)  -> button1, button2, ...
 //   item7  (taken)  -> item1, not item71
-// A deleted name found on the way is revived instead. Ends the run when memory is exhausted.
+// A deleted name found on the way is revived instead.
 NameHandle NameCreate(NameTable* table, const char* name);
 
 // The text of the name; null for kNoName and for a handle that was never given out.
 char* NameGet(const NameTable* table, NameHandle handle);
 
-// Lowers the count of a present name, never below 0. Null and unknown names are ignored. Linear in
-// the table.
+// Lowers the count of a present name, never below 0. Null and unknown names are ignored.
 void NameDelete(NameTable* table, const char* name);
 
 // One more holder for a present name (no new name is made); for an absent one NameCreate, for null
@@ -76,10 +86,6 @@ void AddUILKeyWordsToTable(NameTable* table);
 // The characters besides letters and digits that may stand in an identifier, and in a type name.
 const char* GetSetIdentifierLegalChars();
 const char* GetSetTypeLegalChars();
-
-// Reports a fatal system error on standard error and ends the run with status 1. To be installed
-// where a signal must end it with a message.
-[[noreturn]] void SystemErrorHandler();
 
 // Empties the instance-name table.
 void ResetNameTable();

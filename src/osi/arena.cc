@@ -5,114 +5,71 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "osi/huge_pages.h"
-
-ArenaFree arena_free = {nullptr, nullptr};
+#include "osi/arena_testing.h"
 
 namespace {
 
 #ifdef PANDREL_SANITIZED
-constexpr bool kOneBlockAChunk = true;
+constexpr std::size_t kChunkSize = 0;
 #else
-constexpr bool kOneBlockAChunk = false;
+constexpr std::size_t kChunkSize = 64 * 1024;
 #endif
-// The first chunk is for the ordinary file. Each further one is four times as large, up to a size
-// that the kernel can back by huge pages: in large files the first touch of small ones took as long
-// as the parser.
-constexpr std::size_t kFirstChunkSize = 256 * 1024;
+constexpr std::size_t kAlignment = alignof(void*);
 
-// Chunks are linked through their headers only so that ArenaReset finds them.
+// Chunks are linked only so that ArenaReset finds them.
 struct Chunk {
   Chunk* previous;
 };
 
-struct ArenaState {
+struct Arena {
   Chunk* last = nullptr;
-  // While requests are counted, the free part of the current chunk waits here, so that every
-  // request takes the long way.
-  ArenaFree waiting = {nullptr, nullptr};
+  // The free part of the current chunk: records are taken from its start, texts from its end, so
+  // that neither wastes padding.
+  char* start = nullptr;
+  char* end = nullptr;
   long successes_left = -1;
-  bool first_chunk_taken = false;
-  std::size_t chunk_size = kFirstChunkSize;  // of the next one from the heap
 };
 
-ArenaState state;
-
-// Makes a block from the heap a chunk and returns what it has to give; null for null.
-char* AddChunk(void* block) {
-  if (!block) return nullptr;
-  auto* chunk = static_cast<Chunk*>(block);
-  chunk->previous = state.last;
-  state.last = chunk;
-  return reinterpret_cast<char*>(chunk + 1);
-}
-
-// A new chunk that holds `size` bytes; null when memory is exhausted.
-char* NewChunk(std::size_t size) {
-  if (size > SIZE_MAX - sizeof(Chunk)) return nullptr;
-  return AddChunk(std::malloc(sizeof(Chunk) + size));
-}
-
-// The same in a huge page of its own, which its header is a part of.
-char* NewHugeChunk() {
-  void* block = std::aligned_alloc(kHugePageSize, kHugePageSize);
-  if (block) WantHugePages(block, kHugePageSize);
-  return AddChunk(block);
-}
+Arena arena;
 
 // Whether another request may be served.
 bool CountRequest() {
-  if (state.successes_left < 0) return true;
-  if (state.successes_left == 0) return false;
-  --state.successes_left;
+  if (arena.successes_left < 0) return true;
+  if (arena.successes_left == 0) return false;
+  --arena.successes_left;
   return true;
 }
 
-// A block of a chunk of its own.
-char* AllocAlone(std::size_t size) { return CountRequest() ? NewChunk(size) : nullptr; }
-
-// Where an ordinary file fits as a whole: part of the program, so that it need not be asked for.
-alignas(void*) char first_chunk[kFirstChunkSize];
-
-// Makes a new chunk the current one. What was left of the former one is given up: less than the
-// block that did not fit.
-bool StartChunk() {
-  std::size_t room = state.chunk_size;
-  char* start = nullptr;
-  if (!state.first_chunk_taken) {
-    state.first_chunk_taken = true;
-    start = first_chunk;
-  } else if (state.chunk_size < kHugePageSize) {
-    start = NewChunk(room);
-    state.chunk_size *= 4;
-  } else {
-    room = kHugePageSize - sizeof(Chunk);
-    start = NewHugeChunk();
-  }
-  if (!start) {
-    // Memory is short: perhaps there is some left for less.
-    room = kFirstChunkSize;
-    start = NewChunk(room);
-  }
-  if (!start) return false;
-  arena_free = {start, start + room};
+// Makes sure that `size` bytes are free. What was left of the former chunk is given up.
+bool MakeRoom(std::size_t size) {
+  if (!CountRequest()) return false;
+  if (size <= static_cast<std::size_t>(arena.end - arena.start)) return true;
+  const std::size_t room = size > kChunkSize ? size : kChunkSize;
+  if (room > SIZE_MAX - sizeof(Chunk)) return false;
+  auto* chunk = static_cast<Chunk*>(std::malloc(sizeof(Chunk) + room));
+  if (!chunk) return false;
+  chunk->previous = arena.last;
+  arena.last = chunk;
+  arena.start = reinterpret_cast<char*>(chunk + 1);
+  arena.end = arena.start + room;
   return true;
-}
-
-bool WantsChunkOfItsOwn(std::size_t size) {
-  return kOneBlockAChunk || state.successes_left >= 0 || size > kFirstChunkSize / 16;
 }
 
 }  // namespace
 
-void* ArenaAllocSlowly(std::size_t size) {
-  if (WantsChunkOfItsOwn(size)) return AllocAlone(size);
-  return StartChunk() ? ArenaAlloc(size) : nullptr;
+void* ArenaAlloc(std::size_t size) {
+  if (size > SIZE_MAX - kAlignment) return nullptr;
+  const std::size_t rounded = (size + kAlignment - 1) / kAlignment * kAlignment;
+  if (!MakeRoom(rounded)) return nullptr;
+  char* block = arena.start;
+  arena.start += rounded;
+  return block;
 }
 
-char* ArenaTextBlockSlowly(std::size_t size) {
-  if (WantsChunkOfItsOwn(size)) return AllocAlone(size);
-  return StartChunk() ? ArenaTextBlock(size) : nullptr;
+char* ArenaTextBlock(std::size_t size) {
+  if (!MakeRoom(size)) return nullptr;
+  arena.end -= size;
+  return arena.end;
 }
 
 char* ArenaText(const char* text, std::size_t length) {
@@ -129,21 +86,12 @@ void* TryRealloc(void* block, std::size_t size) {
 }
 
 void ArenaReset() {
-  while (state.last) {
-    Chunk* previous = state.last->previous;
-    std::free(state.last);
-    state.last = previous;
+  while (arena.last) {
+    Chunk* previous = arena.last->previous;
+    std::free(arena.last);
+    arena.last = previous;
   }
-  state = ArenaState();
-  arena_free = {nullptr, nullptr};
+  arena = Arena();
 }
 
-void ArenaFailAfter(long successes) {
-  if (state.successes_left < 0 && successes >= 0) {
-    state.waiting = arena_free;
-    arena_free = {nullptr, nullptr};
-  } else if (state.successes_left >= 0 && successes < 0) {
-    arena_free = state.waiting;
-  }
-  state.successes_left = successes;
-}
+void ArenaFailAfter(long successes) { arena.successes_left = successes; }

@@ -12,40 +12,12 @@
 #include <cstddef>
 #include <new>
 
-// The free part of the current chunk: records are taken from its start, texts from its end, so that
-// neither wastes padding. Empty while every request must take the long way.
-struct ArenaFree {
-  char* start;
-  char* end;
-};
-extern ArenaFree arena_free;
-
-// What happens when the current chunk is too small for a request, or must not be asked.
-void* ArenaAllocSlowly(std::size_t size);
-char* ArenaTextBlockSlowly(std::size_t size);
-
 // A block of `size` bytes aligned for any record of ours, uninitialised; null when memory is
 // exhausted (the caller says in its own words what could not be had).
-inline void* ArenaAlloc(std::size_t size) {
-  constexpr std::size_t kAlignment = alignof(void*);
-  const std::size_t room = static_cast<std::size_t>(arena_free.end - arena_free.start);
-  // Sizes come as they are: one that rounding up would overflow is too large for any chunk.
-  if (size > room || (size + kAlignment - 1) / kAlignment * kAlignment > room) {
-    return ArenaAllocSlowly(size);
-  }
-  char* block = arena_free.start;
-  arena_free.start += (size + kAlignment - 1) / kAlignment * kAlignment;
-  return block;
-}
+void* ArenaAlloc(std::size_t size);
 
 // A block of `size` bytes for text, with no alignment; null when memory is exhausted.
-inline char* ArenaTextBlock(std::size_t size) {
-  if (size > static_cast<std::size_t>(arena_free.end - arena_free.start)) {
-    return ArenaTextBlockSlowly(size);
-  }
-  arena_free.end -= size;
-  return arena_free.end;
-}
+char* ArenaTextBlock(std::size_t size);
 
 // A private copy of the first `length` bytes of `text`, NUL-terminated; null when memory is
 // exhausted.
@@ -64,9 +36,5 @@ void* TryRealloc(void* block, std::size_t size);
 
 // Frees every block handed out so far.
 void ArenaReset();
-
-// For tests of out-of-memory messages: the first `successes` requests from now on are served, all
-// later ones fail; a negative number (the default) lifts the limit.
-void ArenaFailAfter(long successes);
 
 #endif

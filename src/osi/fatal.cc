@@ -25,6 +25,16 @@ void OsiExit(int status) {
 #endif
 }
 
+void Error(const char* message) {
+  std::fprintf(stderr, "Error: %s\n", message);
+  OsiExit(-1);
+}
+
+void SystemErrorHandler() {
+  std::fputs("Sorry, fatal error trying to convert GIL file.\n", stderr);
+  OsiExit(1);
+}
+
 OsiExitHandler OsiSetExitHandler(OsiExitHandler handler) {
   OsiExitHandler previous = exit_handler;
   exit_handler = handler;

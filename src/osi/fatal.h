@@ -13,6 +13,13 @@ using OsiExitHandler = void (*)(int status);
 // handler when one is set, else at once, with the open streams flushed and no destructor run.
 [[noreturn]] void OsiExit(int status);
 
+// Writes "Error: <message>" on standard error and ends the run with status -1 (255 to the shell).
+[[noreturn]] void Error(const char* message);
+
+// Reports a fatal system error on standard error and ends the run with status 1. To be installed
+// where a signal must end it with a message.
+[[noreturn]] void SystemErrorHandler();
+
 // Sets the handler (null: none) and returns the one before it.
 OsiExitHandler OsiSetExitHandler(OsiExitHandler handler);
 

@@ -46,23 +46,13 @@ char* OsiIntToStr(int n) {
   return OsiStrdup(digits);
 }
 
-// Cuts trailing white space off `s` and returns where its trailing number, if any, begins.
-static char* CutToEndDigits(char* s) {
+int OsiRemoveEndDigits(char* s) {
+  if (!s || !*s) return 0;
   OsiRemoveEndBlanks(s);
   char* last = s + std::strlen(s) - 1;
   while (last != s && *last >= '0' && *last <= '9') --last;
-  return last + 1;
-}
-
-int OsiRemoveEndDigits(char* s) {
-  if (!s || !*s) return 0;
-  char* digits = CutToEndDigits(s);
   int number = 0;
-  OsiStrToInt(digits, &number, nullptr);
-  *digits = '\0';
+  OsiStrToInt(last + 1, &number, nullptr);
+  last[1] = '\0';
   return number;
-}
-
-void OsiCutEndDigits(char* s) {
-  if (s && *s) *CutToEndDigits(s) = '\0';
 }

@@ -24,7 +24,4 @@ char* OsiIntToStr(int n);
 // never examined nor removed: "123" becomes "1" and gives 23. Null and the empty string give 0.
 int OsiRemoveEndDigits(char* s);
 
-// Cuts the same, and nothing more.
-void OsiCutEndDigits(char* s);
-
 #endif

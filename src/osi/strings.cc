@@ -5,19 +5,6 @@
 
 static const char* OrEmpty(const char* s) { return s ? s : ""; }
 
-int OsiStrcmp(const char* a, const char* b) {
-  if (a == b) return 0;  // texts are often shared
-  a = OrEmpty(a);
-  b = OrEmpty(b);
-  // Searches over classes and resources spend their time here. Names begin alike, "XmN", and differ
-  // soon after: mostly a few bytes take less time than the library's call.
-  for (int i = 0; i < 8; ++i) {
-    if (a[i] != b[i]) return static_cast<unsigned char>(a[i]) - static_cast<unsigned char>(b[i]);
-    if (!a[i]) return 0;
-  }
-  return std::strcmp(a + 8, b + 8);
-}
-
 int OsiStrncmp(const char* a, const char* b, std::size_t n) {
   return std::strncmp(OrEmpty(a), OrEmpty(b), n);
 }

@@ -12,7 +12,7 @@
 #include <cstring>
 
 // strcmp, with a null string equal to an empty one. The converter's only string comparison.
-int OsiStrcmp(const char* a, const char* b);
+inline int OsiStrcmp(const char* a, const char* b) { return std::strcmp(a ? a : "", b ? b : ""); }
 
 // strncmp, with a null string equal to an empty one.
 int OsiStrncmp(const char* a, const char* b, std::size_t n);

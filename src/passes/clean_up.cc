@@ -3,9 +3,9 @@
 
 #include "flags/flags.h"
 #include "layout/tiling.h"
-#include "widget/links.h"
 #include "passes/convenience.h"
 #include "passes/popup_parents.h"
+#include "widget/links.h"
 #include "widget/tree.h"
 
 static bool IsMenu(const Widg* widg) {
@@ -39,7 +39,7 @@ static Widg* DropMenus(Widg* first) {
 
 Widg* CleanUpTopLevelHierarchy(Widg** listLink) {
   Widg* top = DropMenus(*listLink);
-  TopLevelIsCleaned();
+  MenusAreDropped();
   if (usezo && zo25) {
     ReplaceConvenienceWidgets(top);
     MakePopupMenusValidForZO25(top);

@@ -6,8 +6,8 @@
 #include "widget/walk.h"
 
 struct ConvenienceRow {
-  FixedText class_name;
-  FixedText work_class;
+  const char* class_name;
+  const char* work_class;
 };
 
 static const ConvenienceRow kConvenience[] = {

@@ -16,11 +16,6 @@ static int32_t serial = kFirstSerial;
 
 static constexpr std::size_t kInt32Digits = 11;  // "-2147483648"
 
-void Error(const char* message) {
-  std::fprintf(stderr, "Error: %s\n", message);
-  OsiExit(-1);
-}
-
 char* JoinTexts(const char* before, const char* text, const char* after,
                 const char* out_of_memory) {
   const std::size_t before_length = OsiStrlen(before);

@@ -10,9 +10,6 @@
 #include <cstddef>
 #include <cstdint>
 
-// Writes "Error: <message>" on standard error and ends the run with status -1 (255 to the shell).
-[[noreturn]] void Error(const char* message);
-
 // The decimal text of `number`.
 char* IntToString(int32_t number);
 

@@ -1,69 +1,46 @@
 // SPDX-License-Identifier: MIT
 #include "uil/writer.h"
 
-#include <cstring>
+#include <cstddef>
+#include <string>
 #include <string_view>
 #include <vector>
 
 #include "flags/flags.h"
-#include "osi/io_buffer.h"
 #include "osi/strings.h"
-#include "names/name_table.h"
 #include "widget/procedures.h"
 #include "widget/tree.h"
 
 namespace {
 
-// The module is gathered in pieces before it goes to the stream.
-constexpr std::size_t kPieceSize = kIoBufferSize;
-
+// The text is gathered here and written in large pieces.
+std::string text;
+constexpr std::size_t kPieceSize = 64 * 1024;
 std::FILE* output = nullptr;
-constexpr char* piece = io_buffer;
-std::size_t piece_length = 0;
 
 void Flush() {
-  std::fwrite(piece, 1, piece_length, output);
-  piece_length = 0;
+  std::fwrite(text.data(), 1, text.size(), output);
+  text.clear();
 }
 
-// A text that the rest of the piece is too small for.
-[[gnu::noinline]] void PutOnNextPiece(std::string_view text) {
-  Flush();
-  if (text.size() > kPieceSize) {
-    std::fwrite(text.data(), 1, text.size(), output);
-    return;
-  }
-  std::memcpy(piece, text.data(), text.size());
-  piece_length = text.size();
+void Put(std::string_view part) { text += part; }
+
+void PutText(const char* part) {
+  if (part) Put(part);
 }
 
-// In line, so that a literal is a store or two: a module consists of very many short ones.
-[[gnu::always_inline]] inline void Put(std::string_view text) {
-  if (text.size() > kPieceSize - piece_length) return PutOnNextPiece(text);
-  std::memcpy(piece + piece_length, text.data(), text.size());
-  piece_length += text.size();
-}
-
-void PutText(const char* text) {
-  if (text) Put(text);
-}
-
-// What each line of an object that stands as a comment begins with; mostly nothing.
-void PutMark(std::string_view mark) {
-  if (!mark.empty()) Put(mark);
-}
-
-// A line of an object, or the first part of one.
-[[gnu::always_inline]] inline void PutLine(std::string_view mark, std::string_view text) {
-  PutMark(mark);
-  Put(text);
+// A line of an object, or the first part of one. The mark is what each line of an object that
+// stands as a comment begins with.
+void PutLine(std::string_view mark, std::string_view part) {
+  Put(mark);
+  Put(part);
 }
 
 bool IsShell(const Widg* widg) {
   return IsClass(widg, "TopLevelShell") || IsClass(widg, "XmDialogShell");
 }
 
-bool IsWritten(const Widg* widg) { return !widg->class_name.empty(); }
+bool IsWritten(const Widg* widg) { return OsiStrlen(widg->class_name) > 0; }
 
 // UIL has no shells: they stand in the module as comments, which the builder knows by its own mark.
 std::string_view ShellMark() { return usezo ? "!(ZO)" : "!"; }
@@ -79,19 +56,10 @@ void GenStdHeader() {
 
 void GenStdFooter() { Put("\nend module;"); }
 
-// UIL has one name space for procedures and objects, which the builder sorts out by itself.
-void FixProcedureName(char* name) {
-  if (usezo || NameLookup(InstanceNameTbl(), name) == kNoName) return;
-  std::fprintf(stderr, "Changing procedure named %s to ", name);
-  if (*name >= 'a' && *name <= 'z') *name = static_cast<char>(*name - 'a' + 'A');
-  std::fprintf(stderr, "%s to avoid name collision\n", name);
-}
-
 void GenProcedures() {
   char** procedures = nullptr;
   const std::size_t count = GetProcedures(&procedures);
   for (std::size_t i = 0; i < count; ++i) {
-    FixProcedureName(procedures[i]);
     Put("procedure ");
     PutText(procedures[i]);
     Put(";\n");
@@ -107,7 +75,7 @@ void GenControls(const Widg* widg, std::string_view mark) {
     if (marked && OmitShells()) continue;
     PutLine(marked ? ShellMark() : mark, "\t\t");
     if (!child->managed) Put("unmanaged ");
-    Put(child->class_name.view());
+    PutText(child->class_name);
     Put(" ");
     PutText(child->name);
     Put(";\n");
@@ -119,9 +87,9 @@ void GenArguments(const Widg* widg, std::string_view mark) {
   PutLine(mark, "\targuments {\n");
   for (const Resource* resource = widg->resources; resource; resource = resource->next) {
     // Carries the glyph's file name between the steps of the conversion; no resource of Motif's.
-    if (resource->name == "XmNoriginalPixmapName") continue;
+    if (OsiStrcmp(resource->name, "XmNoriginalPixmapName") == 0) continue;
     PutLine(mark, "\t\t");
-    Put(resource->name.view());
+    PutText(resource->name);
     Put(" = ");
     PutText(resource->value);
     Put(";\n");
@@ -181,14 +149,15 @@ void GenObject(const Widg* widg) {
   if (IsShell(widg) && OmitShells()) return;
   const std::string_view mark = IsShell(widg) ? ShellMark() : "";
   PutLine(mark, "object\n");
-  PutMark(mark);
+  Put(mark);
   PutText(widg->name);
   Put(":");
-  Put(widg->class_name.view());
+  PutText(widg->class_name);
   Put("{\n");
   GenControls(widg, mark);
   GenArguments(widg, mark);
   GenCallbacks(widg, mark);
+  if (text.size() > kPieceSize) Flush();
 }
 
 // Writes the objects below the widget, then its own. A widget is written once, where it is met
@@ -221,7 +190,6 @@ void GenUILForWidg(Widg* widg) {
 
 void GenUILForWidgHierarchy(Widg* top, std::FILE* stream) {
   output = stream;
-  piece_length = 0;
   GenStdHeader();
   GenProcedures();
   for (Widg* widg = top; widg; widg = widg->next) GenUILForWidg(widg);

@@ -11,9 +11,6 @@ struct Widg;
 
 // Writes the module: head, one declaration for each procedure of the procedure list, the objects of
 // the top-level list, foot. Write errors are left for the caller to find on the stream.
-//
-// Without the builder, a procedure named like an instance is renamed in place first (its first
-// letter becomes a capital) and the renaming told on standard error.
 void GenUILForWidgHierarchy(Widg* top, std::FILE* output);
 
 #endif

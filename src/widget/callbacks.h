@@ -12,7 +12,4 @@ void AddCallback(Widg* widg, const char* callback_name, char* procedure, const c
 // Moves every callback of that name; those that stay keep their order. Does nothing for null.
 void MoveCallback(Widg* from, Widg* to, const char* callback_name);
 
-// Forgets what AddCallback remembers of the list it was last busy with.
-void ResetCallbacks();
-
 #endif

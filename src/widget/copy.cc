@@ -1,18 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "widget/copy.h"
 
+#include <unordered_set>
+
+#include "widget/known_names.h"
 #include "widget/links.h"
-#include "widget/name_index.h"
-#include "widget/search.h"
 #include "widget/tree.h"
 
 Widg* CopyWidg(Widg* widg) {
-  NameIndexForget(widg);  // MakeWidg may change the text
   Widg* copy = MakeWidg(widg->class_name, widg->gil_name);
-  NameIndexRemember(widg);
+  NamesRenamed(widg, copy->gil_name);  // MakeWidg may have changed the original's in place
   copy->callbacks = widg->callbacks;
   copy->resources = widg->resources;
-  copy->shares_lists = widg->shares_lists = true;
   copy->actions = widg->actions;
   copy->managed = widg->managed;
   copy->wrapped = widg->wrapped;
@@ -36,9 +35,8 @@ static Widg* CopySiblings(Widg* first) {
 // Copies what is below `widg` under its copy, level by level. A widget that lies below itself ends
 // the descent where it comes up again: its copy would have no end.
 static void CopyDescendants(Widg* widg, Widg* copy) {
-  const unsigned visit = NewVisit();
-  while (widg->child && widg->visit != visit) {
-    widg->visit = visit;
+  std::unordered_set<const Widg*> copied;
+  while (widg->child && copied.insert(widg).second) {
     SetChildren(copy, CopySiblings(widg->child));
     widg = widg->child;
     copy = copy->child;

@@ -7,7 +7,7 @@
 #include "text/uil_text.h"
 #include "widget/tree.h"
 
-static void CopyResource(const Widg* from, FixedText name, Widg* to) {
+static void CopyResource(const Widg* from, const char* name, Widg* to) {
   const char* value = GetResourceValue(from, name);
   if (*value) AddResource(to, name, value);
 }

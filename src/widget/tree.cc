@@ -3,14 +3,12 @@
 
 #include <cstring>
 
-#include "osi/arena.h"
-#include "osi/strings.h"
 #include "names/name_table.h"
+#include "osi/arena.h"
+#include "osi/fatal.h"
+#include "osi/strings.h"
 #include "text/uil_text.h"
-#include "widget/callbacks.h"
-#include "widget/links.h"
-#include "widget/name_index.h"
-#include "widget/search.h"
+#include "widget/known_names.h"
 
 Widg* top_widget = nullptr;
 
@@ -23,7 +21,7 @@ static void FixRequestedName(char* name) {
   if (std::strlen(name) > kLongestName) name[kCutName] = '\0';
 }
 
-Widg* MakeWidg(FixedText class_name, char* requested) {
+Widg* MakeWidg(const char* class_name, char* requested) {
   auto* widg = ArenaNew<Widg>();
   if (!widg) Error("Out of memory in MakeWidg");
   widg->gil_name = ArenaText(requested, OsiStrlen(requested));
@@ -33,17 +31,16 @@ Widg* MakeWidg(FixedText class_name, char* requested) {
   widg->name = NameGet(names, NameCreate(names, requested));
   widg->class_name = class_name;
   widg->managed = 1;
-  NameIndexMade(widg);
   return widg;
 }
 
 void SetGilName(Widg* widg, char* gil_name) {
-  NameIndexForget(widg);
+  const char* former = widg->gil_name;
   widg->gil_name = gil_name;
-  NameIndexRemember(widg);
+  NamesRenamed(widg, former);
 }
 
-Resource* MakeResource(FixedText name, const char* value) {
+Resource* MakeResource(const char* name, const char* value) {
   auto* resource = ArenaNew<Resource>();
   if (!resource) Error("Out of memory in MakeResource");
   resource->name = name;
@@ -60,10 +57,10 @@ Callback* MakeCallback(const char* callback_name, char* procedure, const char* a
   return callback;
 }
 
-void AddResource(Widg* widg, FixedText name, const char* value) {
+void AddResource(Widg* widg, const char* name, const char* value) {
   Resource** link = &widg->resources;
   for (; *link; link = &(*link)->next) {
-    if ((*link)->name == name) {
+    if (OsiStrcmp((*link)->name, name) == 0) {
       (*link)->value = value;
       return;
     }
@@ -71,29 +68,29 @@ void AddResource(Widg* widg, FixedText name, const char* value) {
   *link = MakeResource(name, value);
 }
 
-const char* GetResourceValue(const Widg* widg, FixedText name) {
+const char* GetResourceValue(const Widg* widg, const char* name) {
   for (const Resource* resource = widg->resources; resource; resource = resource->next) {
-    if (resource->name == name) return resource->value ? resource->value : "";
+    if (OsiStrcmp(resource->name, name) == 0) return resource->value ? resource->value : "";
   }
   return "";
 }
 
-bool HasResource(const Widg* widg, FixedText name) { return *GetResourceValue(widg, name); }
+bool HasResource(const Widg* widg, const char* name) { return *GetResourceValue(widg, name); }
 
-int32_t GetResourceInt(const Widg* widg, FixedText name) {
+int32_t GetResourceInt(const Widg* widg, const char* name) {
   const char* value = GetResourceValue(widg, name);
   return *value ? StringToInt(value) : 0;  // most geometry is absent
 }
 
-void RemoveResource(Widg* widg, FixedText name) {
+void RemoveResource(Widg* widg, const char* name) {
   for (Resource** link = &widg->resources; *link; link = &(*link)->next) {
-    if ((*link)->name != name) continue;
+    if (OsiStrcmp((*link)->name, name) != 0) continue;
     *link = (*link)->next;
     return;
   }
 }
 
-void MoveResource(Widg* from, FixedText name, Widg* to) {
+void MoveResource(Widg* from, const char* name, Widg* to) {
   const char* value = GetResourceValue(from, name);
   if (!*value) return;
   AddResource(to, name, value);
@@ -102,8 +99,5 @@ void MoveResource(Widg* from, FixedText name, Widg* to) {
 
 void ResetTree() {
   top_widget = nullptr;
-  ResetNameIndex();
-  ResetLinks();
-  ResetSearch();
-  ResetCallbacks();
+  ResetKnownNames();
 }

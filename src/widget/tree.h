@@ -12,7 +12,7 @@
 
 #include <cstdint>
 
-#include "osi/fixed_text.h"
+#include "osi/strings.h"
 
 struct Action;
 struct Widg;
@@ -20,7 +20,7 @@ struct Widg;
 // One resource setting. Neither text is copied.
 struct Resource {
   Resource* next;
-  FixedText name;     // "XmNwidth"
+  const char* name;   // "XmNwidth"
   const char* value;  // as it stands in UIL behind " = "
 };
 
@@ -32,43 +32,28 @@ struct Callback {
   const char* argument;       // what stands between the parentheses, maybe nothing
 };
 
-// What the links say of a widget, written down so that a search need not go through the tree to
-// find out. Kept by widget/links.cc and widget/name_index.cc; nobody else writes to it.
-struct Place {
-  Widg* parent;        // whose list the widget is in; kTopLevel; null: in no list
-  Widg* last_child;    // of this widget's list, unless it has left that; null: not known
-  Widg* claimed_by;    // while top-level: who else has it in its list
-  Widg* same_hash;     // the next older widget in the name index whose name has the same hash
-  Widg* made_before;   // the widget made before this one
-  uint32_t order;      // rises along a list
-  uint32_t made;       // rises with each widget made
-  uint32_t unit;       // in which the widget was made; see widget/name_index.h
-  uint32_t oldest;     // the least `made` below, itself included
-  uint32_t hash;       // of the GIL name; 0: not in the index yet
-  bool was_top_level;  // stands among the top-level widgets of the name index, now or from before
-  bool shared;         // in more than one list below the top level
-};
-
 struct Widg {
-  // What walks and searches look at stands together.
-  Widg* next;            // next sibling
-  Widg* child;           // first child
-  FixedText class_name;  // Motif class; empty: never written
-  Resource* resources;   // in the order in which each name was first set
-  // Marks of walks, so that each ends whatever the links are.
-  uint32_t visit;                     // of the search that saw the widget last (widget/search.cc)
-  uint32_t walk;                      // of the walk that saw it last (widget/walk.h)
-  char* gil_name;                     // the requested name as it was before it was made legal
-  Place place;                        // where the links put it
+  Widg* next;                         // next sibling
+  const char* class_name;             // Motif class, not copied; empty: never written
   char* name;                         // instance name, unique; the text belongs to the name table
+  char* gil_name;                     // the requested name as it was before it was made legal
+  Widg* child;                        // first child
   Callback* callbacks;                // in insertion order
+  Resource* resources;                // in the order in which each name was first set
   Action* actions;                    // of the GIL object; null for companions
   int32_t managed;                    // 0: listed as "unmanaged" by its parent
   int32_t wrapped;                    // 1: a companion made for its sake stands around it
   int32_t x, y, width, height;        // of the GIL object, in pixels; 0 when unknown
   int32_t generated;                  // 1: written already
   int32_t extra_width, extra_height;  // pixels that Motif needs beyond the GIL size
-  bool shares_lists;  // a copy of this widget, or the one that it is a copy of, has the same lists
+
+  uint32_t walk;  // mark of the last walk that came here (widget/walk.h)
+
+  // What searches know of the widget: note [what searches know] in widget/known_names.h.
+  Widg* parent;    // whose list of children the widget came into first; null: nobody's
+  uint32_t visit;  // mark of the last search that came here; 0: the widget was never in the tree
+  bool top_level;  // in the list of top_widget
+  bool shared;     // in more than one list of children
 };
 
 // The first of the top-level widgets: shells, dialog shells, and menus before the clean-up.
@@ -78,37 +63,37 @@ extern Widg* top_widget;
 // in the caller's buffer the first letter is lowered and a name of 32 characters or more is cut to
 // 30, then the name table makes it unique. A null name counts as empty. Ends the run when memory is
 // exhausted, as the other constructors do.
-Widg* MakeWidg(FixedText class_name, char* requested);
+Widg* MakeWidg(const char* class_name, char* requested);
 
-Resource* MakeResource(FixedText name, const char* value);
+Resource* MakeResource(const char* name, const char* value);
 Callback* MakeCallback(const char* callback_name, char* procedure, const char* argument);
 
 // Gives the widget another GIL name, which is shared, not copied.
 void SetGilName(Widg* widg, char* gil_name);
 
 // Whether the widget is of that Motif class.
-inline bool IsClass(const Widg* widg, FixedText class_name) {
-  return widg->class_name == class_name;
+inline bool IsClass(const Widg* widg, const char* class_name) {
+  return OsiStrcmp(widg->class_name, class_name) == 0;
 }
 
 // Sets a resource: replaces the value where the name stands already, else appends.
-void AddResource(Widg* widg, FixedText name, const char* value);
+void AddResource(Widg* widg, const char* name, const char* value);
 
 // The value of the first resource of that name, "" when there is none; never null.
-const char* GetResourceValue(const Widg* widg, FixedText name);
+const char* GetResourceValue(const Widg* widg, const char* name);
 
 // Whether the widget has a value for the resource that is not empty.
-bool HasResource(const Widg* widg, FixedText name);
+bool HasResource(const Widg* widg, const char* name);
 
 // The value as atoi reads it: 0 for an absent resource.
-int32_t GetResourceInt(const Widg* widg, FixedText name);
+int32_t GetResourceInt(const Widg* widg, const char* name);
 
 // Unlinks the first resource of that name. The record keeps its `next`: another widget whose list
 // head it is still sees it and what follows.
-void RemoveResource(Widg* widg, FixedText name);
+void RemoveResource(Widg* widg, const char* name);
 
 // Moves a resource that is not empty from one widget to another.
-void MoveResource(Widg* from, FixedText name, Widg* to);
+void MoveResource(Widg* from, const char* name, Widg* to);
 
 // Empties the tree.
 void ResetTree();

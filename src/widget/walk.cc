@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "widget/walk.h"
 
+#include "widget/walk_testing.h"
+
 static std::size_t limit = kMaxRepeats;
 
 void LimitRepeats(std::size_t max_repeats) { limit = max_repeats; }

@@ -10,15 +10,17 @@
 #include <string>
 #include <vector>
 
+#include "../unit/support/checked_searches.h"
 #include "confinement.h"
-#include "driver/driver.h"
 #include "driver/command_line.h"
+#include "driver/driver.h"
 #include "gil_mutator.h"
 #include "session.h"
 #include "uil/writer.h"
 #include "widget/search.h"
 #include "widget/tree.h"
 #include "widget/walk.h"
+#include "widget/walk_testing.h"
 
 namespace {
 

@@ -10,9 +10,8 @@
 #include <utility>
 #include <vector>
 
-#include "gil/attribute_forms.h"
-#include "gil/keywords.h"
 #include "gil/tokens.h"
+#include "gil/words.h"
 #include "gil_outline.h"
 
 namespace {
@@ -138,7 +137,7 @@ class Mutator {
     return name == nullptr ? OneOf(kNames) : name->value;
   }
 
-  std::string Word(ValueForm enumeration);
+  std::string WordOf(Enumeration enumeration);
   std::string ElementType();
   std::string Value(ValueForm form);
   template <typename MakeElement>
@@ -169,10 +168,11 @@ class Mutator {
   std::vector<OutlineFile> files_;
 };
 
-std::string Mutator::Word(ValueForm enumeration) {
+std::string Mutator::WordOf(Enumeration enumeration) {
   std::vector<std::string> words;
-  for (const Keyword* keyword = keywords; keyword->text != nullptr; ++keyword) {
-    if (IsWordOf(enumeration, keyword->token)) words.push_back(std::string(":") + keyword->text);
+  for (const Word* keyword = kFirstWord; keyword <= kLastWord; ++keyword) {
+    if (keyword->text && IsWordOf(enumeration, keyword->token))
+      words.push_back(std::string(":") + keyword->text);
   }
   // The two words that are written without a colon.
   if (IsWordOf(enumeration, T)) words.emplace_back("t");
@@ -182,8 +182,8 @@ std::string Mutator::Word(ValueForm enumeration) {
 
 std::string Mutator::ElementType() {
   std::vector<std::string> types;
-  for (const Keyword* keyword = keywords; keyword->text != nullptr; ++keyword) {
-    if (IsElementType(keyword->token)) types.push_back(std::string(":") + keyword->text);
+  for (const Word* keyword = kFirstWord; keyword <= kLastWord; ++keyword) {
+    if (IsWordOf(kElementType, keyword->token)) types.push_back(std::string(":") + keyword->text);
   }
   return types[Below(types.size())];
 }
@@ -196,28 +196,26 @@ std::string Mutator::List(MakeElement make_element) {
 }
 
 std::string Mutator::Value(ValueForm form) {
-  switch (form) {
-    case kInteger:
+  switch (form.shape) {
+    case kIntegerShape:
       return OneOf(kNumbers);
-    case kString:
+    case kStringShape:
       return OneOf(kStrings);
-    case kIntegerOrString:
+    case kIntegerOrStringShape:
       return OneIn(2) ? OneOf(kNumbers) : OneOf(kStrings);
-    case kName:
+    case kNameShape:
       return Name();
-    case kNameList:
+    case kNameListShape:
       return List([this] { return Name(); });
-    case kStringList:
+    case kStringListShape:
       return List([this] { return OneOf(kStrings); });
-    case kNoForm:
-    case kEmptyList:
-      return "()";
+    case kWordShape:
+      return WordOf(form.words);
+    case kWordListShape:
+      return List([this, form] { return WordOf(form.words); });
     default:
-      break;
+      return "()";
   }
-  const ValueForm element = ElementForm(form);
-  if (element == kNoForm) return Word(form);
-  return List([this, element] { return Word(element); });
 }
 
 std::string Mutator::Path() {
@@ -233,7 +231,7 @@ std::string Mutator::Action() {
   const std::string action =
       OneIn(8) ? List([this] { return Name(); }) : "(" + OneOf(kActions) + ")";
   return "(:from " + Path() + " :when " + when + " :to " + Path() + " :function_type " +
-         OneOf(kFunctionTypes) + " :arg_type " + List([this] { return Word(kArgType); }) +
+         OneOf(kFunctionTypes) + " :arg_type " + List([this] { return WordOf(kArgType); }) +
          " :action " + action + ")";
 }
 
@@ -311,14 +309,11 @@ void Mutator::Reaction() {
   Set(object, ":actions", MakeList(actions));
 }
 
-// The form that the attribute's value should have; kNoForm for an unknown keyword.
+// The form that the attribute's value should have; kNoValue for an unknown keyword.
 static ValueForm FormOf(const OutlineAttribute& attribute) {
-  std::string word = attribute.keyword;
-  if (word.empty()) return kNoForm;
-  const std::size_t length = word.size() - 1;
-  word.resize(word.size() + kKeywordRoom);
-  const Keyword* keyword = FindKeyword(word.data() + 1, length);
-  return keyword ? AttributeForm(keyword->token) : kNoForm;
+  const std::string& word = attribute.keyword;
+  const Word* keyword = word.empty() ? nullptr : FindKeyword(word.c_str() + 1, word.size() - 1);
+  return keyword ? keyword->value : kNoValue;
 }
 
 void Mutator::ChangeListLength() {
@@ -361,7 +356,7 @@ void Mutator::ChangeValue() {
   if (object == nullptr || object->attributes.empty()) return;
   OutlineAttribute& attribute = object->attributes[Below(object->attributes.size())];
   const ValueForm form = FormOf(attribute);
-  if (form != kNoForm) attribute.value = Value(form);
+  if (form.shape != kNothing) attribute.value = Value(form);
 }
 
 void Mutator::ChangeType() {
@@ -371,12 +366,12 @@ void Mutator::ChangeType() {
 void Mutator::AddAttribute() {
   OutlineObject* object = Object();
   if (object == nullptr) return;
-  std::vector<const Keyword*> candidates;
-  for (const Keyword* keyword = keywords; keyword->text != nullptr; ++keyword) {
-    if (AttributeForm(keyword->token) != kNoForm) candidates.push_back(keyword);
+  std::vector<const Word*> candidates;
+  for (const Word* keyword = kFirstWord; keyword <= kLastWord; ++keyword) {
+    if (keyword->value.shape != kNothing) candidates.push_back(keyword);
   }
-  const Keyword* keyword = candidates[Below(candidates.size())];
-  Set(object, std::string(":") + keyword->text, Value(AttributeForm(keyword->token)));
+  const Word* keyword = candidates[Below(candidates.size())];
+  Set(object, std::string(":") + keyword->text, Value(keyword->value));
 }
 
 void Mutator::EditAttributes() {
@@ -415,7 +410,7 @@ void Mutator::AddObject() {
   object.attributes = {{":type", ElementType()}, {":name", Name()}, {":owner", Name()}};
   // Menus and settings end the run without these.
   if (object.attributes[0].value == ":menu") {
-    object.attributes.push_back({":menu-type", Word(kMenuType)});
+    object.attributes.push_back({":menu-type", WordOf(kMenuType)});
     object.attributes.push_back({":menu-item-labels", Value(kStringList)});
     object.attributes.push_back({":menu-item-menus", Value(kNameList)});
   }

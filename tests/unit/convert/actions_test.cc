@@ -7,8 +7,8 @@
 #include <string>
 #include <string_view>
 
-#include "convert/item_finder.h"
 #include "flags/flags.h"
+#include "unit/support/checked_searches.h"
 #include "unit/support/fatal_end.h"
 #include "unit/support/gil_objects.h"
 #include "unit/support/session_fixture.h"
@@ -111,11 +111,21 @@ TEST_F(Actions, SecondActionIsReportedOnStandardOutput) {
   EXPECT_EQ(Callbacks(ok), "XmNactivateCallback quit()");
 }
 
-TEST_F(Actions, CallOfNothingDoesNothing) {
+TEST_F(Actions, CallOfNothingOnlyAsksForTheEvent) {
   Widg* ok = Ok();
   Action* action = Call("ok", "Enter", "quit");
   action->actionName = nullptr;
+  const Outcome outcome = Run([=] { ProcessAction(ok, action); });
+  EXPECT_EQ(outcome.err, "Ignoring Enter action on widget ok. No direct callback mapping.\n");
+  EXPECT_EQ(Callbacks(ok), "");
+}
+
+TEST_F(Actions, CallOfNothingOnAnEventWithACallbackDoesNothing) {
+  Widg* ok = Ok();
+  Action* action = Call("ok", "Notify", "quit");
+  action->actionName = nullptr;
   ExpectQuiet(Run([=] { ProcessAction(ok, action); }));
+  EXPECT_EQ(Callbacks(ok), "");
 }
 
 TEST_F(Actions, CallOnNoEventDoesNothing) {
@@ -368,8 +378,7 @@ Widg* Choices() {
 Widg* From(Widg* widg, std::initializer_list<std::string_view> path) {
   Action* action = Call("", "Notify", "quit");
   action->from = Ids(FROM, path)->value;
-  ItemFinder items(widg);
-  return LocateFromWidg(widg, &items, action);
+  return LocateFromWidg(widg, action);
 }
 
 TEST_F(Actions, ActionFromAnItemLandsOnTheChildOfThatLabel) {

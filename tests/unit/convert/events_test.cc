@@ -22,7 +22,7 @@ struct Mapping {
   std::string note;
 };
 
-Mapping Map(FixedText class_name, const char* when) {
+Mapping Map(const char* class_name, const char* when) {
   const Widg* widg = NewWidg(class_name, "item");
   StreamCapture err(stderr);
   const char* callback = MapActionToCallback(widg, when);
@@ -31,7 +31,7 @@ Mapping Map(FixedText class_name, const char* when) {
 
 struct EventRow {
   const char* when;
-  FixedText class_name;
+  const char* class_name;
   const char* callback;
 };
 
@@ -77,7 +77,7 @@ const EventRow kNoted[] = {
 TEST_F(Events, EventsWithACallback) {
   for (const EventRow& row : kCallbacks) {
     const Mapping mapping = Map(row.class_name, row.when);
-    EXPECT_EQ(mapping.callback, row.callback) << row.when << " on " << row.class_name.text();
+    EXPECT_EQ(mapping.callback, row.callback) << row.when << " on " << row.class_name;
     EXPECT_EQ(mapping.note, "");
   }
 }
@@ -85,7 +85,7 @@ TEST_F(Events, EventsWithACallback) {
 TEST_F(Events, EventsThatAreDroppedSilently) {
   for (const EventRow& row : kSilent) {
     const Mapping mapping = Map(row.class_name, row.when);
-    EXPECT_EQ(mapping.callback, "-") << row.when << " on " << row.class_name.text();
+    EXPECT_EQ(mapping.callback, "-") << row.when << " on " << row.class_name;
     EXPECT_EQ(mapping.note, "");
   }
 }
@@ -125,7 +125,7 @@ TEST_F(Events, NotesNeedNoteTaking) {
   EXPECT_EQ(Map("XmPopupMenu", "Notify").note, "");
 }
 
-const char* ListCallback(FixedText resource, const char* policy) {
+const char* ListCallback(const char* resource, const char* policy) {
   return MapActionToCallback(With(NewWidg("XmList", "list"), {{resource, policy}}), "Notify");
 }
 

@@ -8,6 +8,7 @@
 
 #include "flags/flags.h"
 #include "unit/support/check_widg_tree.h"
+#include "unit/support/checked_searches.h"
 #include "unit/support/fatal_end.h"
 #include "unit/support/gil_objects.h"
 #include "unit/support/session_fixture.h"
@@ -167,7 +168,7 @@ TEST_F(Groups, IgnoredGroupOfAnOwnerIsAChildThatIsNeverWritten) {
   ignore_groups = 1;
   Convert(Owning(Object(CONTROL_AREA, "area"), {Button("a", 0, 0), Group({"a"})}));
   EXPECT_EQ(NameTree(top_widget), "area(a group)");
-  EXPECT_STREQ(Find("group")->class_name.text(), "");
+  EXPECT_STREQ(Find("group")->class_name, "");
 }
 
 TEST_F(Groups, IgnoredGroupOfAWindowCountsAsAChild) {

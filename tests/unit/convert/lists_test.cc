@@ -106,7 +106,7 @@ TEST_F(ScrollingLists, TitleOfMotif12StandsInAFrame) {
   motif12 = 1;
   Widg* frame = Processed({Str(TITLE, "Files")});
   EXPECT_EQ(InstanceTree(frame), "files_frame(files_title files_sw(files))");
-  EXPECT_STREQ(frame->class_name.text(), "XmFrame");
+  EXPECT_STREQ(frame->class_name, "XmFrame");
   EXPECT_EQ(Resources(frame->child),
             "XmNlabelString=\"Files\" XmNchildType=XmFRAME_TITLE_CHILD "
             "XmNchildVerticalAlignment=XmALIGNMENT_WIDGET_TOP");

@@ -9,12 +9,13 @@
 #include <string_view>
 
 #include "flags/flags.h"
+#include "passes/clean_up.h"
 #include "unit/support/check_widg_tree.h"
+#include "unit/support/checked_searches.h"
 #include "unit/support/fatal_end.h"
 #include "unit/support/gil_objects.h"
 #include "unit/support/session_fixture.h"
 #include "unit/support/widgets.h"
-#include "passes/clean_up.h"
 #include "widget/search.h"
 #include "widget/tree.h"
 
@@ -132,9 +133,9 @@ TEST_F(Menus, ItemsOfAnUnknownTypeAreReportedAndSkipped) {
 TEST_F(Menus, ItemOfASubMenuIsACascadeButton) {
   Convert({Command("sub"), Menu("m", COMMAND, {"A"}, {Ids(MENU_ITEM_MENUS, {"sub"})})});
   const Widg* item = Find("m")->child;
-  EXPECT_STREQ(item->class_name.text(), "XmCascadeButton");
+  EXPECT_STREQ(item->class_name, "XmCascadeButton");
   EXPECT_EQ(item->child, Find("sub"));
-  EXPECT_STREQ(Find("sub")->class_name.text(), "XmPulldownMenu");
+  EXPECT_STREQ(Find("sub")->class_name, "XmPulldownMenu");
 }
 
 TEST_F(Menus, SubMenusAreGivenFromTheLastItemOn) {
@@ -165,7 +166,7 @@ TEST_F(Menus, MenuIsNotItsOwnSubMenu) {
 TEST_F(Menus, SubMenuThatIsAPopupElsewhereIsCopied) {
   Convert({Command("sub"), MenuCanvas("canvas", "sub"),
            Menu("m", COMMAND, {"A"}, {Ids(MENU_ITEM_MENUS, {"sub"})})});
-  EXPECT_STREQ(Find("sub")->class_name.text(), "XmPopupMenu");
+  EXPECT_STREQ(Find("sub")->class_name, "XmPopupMenu");
   EXPECT_EQ(ClassTreeOf(Find("m")->child), "XmCascadeButton(XmPulldownMenu(XmPushButton))");
 }
 
@@ -213,12 +214,12 @@ TEST_F(Menus, ButtonAfterACanvasGetsAPulldownCopy) {
   const Widg* pulldown = Find("button")->child;
   EXPECT_EQ(ClassTreeOf(pulldown), "XmPulldownMenu(XmPushButton)");
   EXPECT_STREQ(pulldown->name, "menu1");
-  EXPECT_STREQ(Find("menu")->class_name.text(), "XmPopupMenu");
+  EXPECT_STREQ(Find("menu")->class_name, "XmPopupMenu");
 }
 
 TEST_F(Menus, CanvasAfterAButtonGetsAPopupCopy) {
   Convert({Command("menu"), MenuButton("button", "menu"), MenuCanvas("canvas", "menu")});
-  EXPECT_STREQ(Find("button")->child->class_name.text(), "XmPulldownMenu");
+  EXPECT_STREQ(Find("button")->child->class_name, "XmPulldownMenu");
   EXPECT_STREQ(Find("button")->child->name, "menu");
   EXPECT_EQ(ClassTree(Find("canvas")->child), "XmPopupMenu(XmPushButton)");
   EXPECT_STREQ(Find("canvas")->child->name, "menu1");
@@ -241,7 +242,7 @@ TEST_F(Menus, MissingPopupMenuIsReported) {
 TEST_F(Menus, MenuAttributeThatIsNoTextIsIgnored) {
   ExpectQuiet(Run([] { Convert(Object(CANVAS_PANE, "canvas", {Tok(MENU, NIL)})); }));
   ExpectQuiet(Run([] { Convert(Object(BUTTON, "button", {Tok(MENU, NIL)})); }));
-  EXPECT_STREQ(Find("button")->class_name.text(), "XmPushButton");
+  EXPECT_STREQ(Find("button")->class_name, "XmPushButton");
 }
 
 TEST_F(Menus, PopupMenuGoesToWhatStandsForTheObject) {
@@ -254,7 +255,7 @@ TEST_F(Menus, PopupMenuGoesToWhatStandsForTheObject) {
 
 TEST_F(Menus, DroppedGroupClaimsItsMenuAllTheSame) {
   Run([] { Convert({Command("menu"), Object(GROUP, "group", {Id(MENU, "menu")})}); });
-  EXPECT_STREQ(Find("menu")->class_name.text(), "XmPopupMenu");
+  EXPECT_STREQ(Find("menu")->class_name, "XmPopupMenu");
 }
 
 }  // namespace

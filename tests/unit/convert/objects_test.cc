@@ -32,25 +32,24 @@ TEST_F(Objects, EveryTypeHasItsClass) {
         ClassOfType{TEXT_FIELD, "XmTextField"}, ClassOfType{TEXT_PANE, "XmScrolledText"},
         ClassOfType{SCROLLING_LIST, "XmList"}, ClassOfType{GROUP, "XmBulletinBoard"},
         ClassOfType{TERM_PANE, ""}, ClassOfType{STACK, ""}, ClassOfType{X, ""}}) {
-    EXPECT_STREQ(GilObjToMotifClassName(Object(row.type, "a")).text(), row.class_name) << row.type;
+    EXPECT_STREQ(GilObjToMotifClassName(Object(row.type, "a")), row.class_name) << row.type;
   }
 }
 
 TEST_F(Objects, ButtonWithAMenuIsACascadeButton) {
   Obj* obj = Object(BUTTON, "button", {Id(MENU, "menu")});
-  EXPECT_STREQ(GilObjToMotifClassName(obj).text(), "XmCascadeButton");
+  EXPECT_STREQ(GilObjToMotifClassName(obj), "XmCascadeButton");
   Value* menu = nullptr;
   EXPECT_EQ(GetAttrValue(obj, MENU, &menu, 0), 1);
 }
 
 TEST_F(Objects, ButtonWhoseMenuIsNoTextIsAPushButton) {
-  EXPECT_STREQ(GilObjToMotifClassName(Object(BUTTON, "button", {Tok(MENU, NIL)})).text(),
-               "XmPushButton");
+  EXPECT_STREQ(GilObjToMotifClassName(Object(BUTTON, "button", {Tok(MENU, NIL)})), "XmPushButton");
 }
 
 TEST_F(Objects, IgnoredGroupHasNoClass) {
   ignore_groups = 1;
-  EXPECT_STREQ(GilObjToMotifClassName(Object(GROUP, "group")).text(), "");
+  EXPECT_STREQ(GilObjToMotifClassName(Object(GROUP, "group")), "");
 }
 
 TEST_F(Objects, ObjectWithoutANameIsFatal) {
@@ -110,7 +109,7 @@ TEST_F(Objects, ControlAreaIsATightBoard) {
 
 TEST_F(Objects, UnknownTypeKeepsItsChildren) {
   const Widg* widg = Convert(Owning(Object(TERM_PANE, "term"), {Object(BUTTON, "a")}));
-  EXPECT_STREQ(widg->class_name.text(), "");
+  EXPECT_STREQ(widg->class_name, "");
   EXPECT_EQ(NameTree(widg), "term(a)");
 }
 
@@ -135,7 +134,7 @@ TEST_F(Objects, DeepOwnersDoNotExhaustTheStack) {
   Obj* obj = Object(BUTTON, "deepest");
   for (int level = 0; level < 5000; ++level) obj = Owning(Object(CONTROL_AREA, "area"), {obj});
   Convert(obj);
-  EXPECT_STREQ(Find("deepest")->class_name.text(), "XmPushButton");
+  EXPECT_STREQ(Find("deepest")->class_name, "XmPushButton");
 }
 
 }  // namespace

@@ -65,21 +65,6 @@ TEST_F(ObjectTest, NumbersKeepTheirValueHoweverManyThereAre) {
   }
 }
 
-TEST_F(ObjectTest, LoneTokensAreShared) {
-  const Value* value = loneTokenValue(NIL);
-  EXPECT_EQ(value, loneTokenValue(NIL));
-  EXPECT_NE(value, loneTokenValue(T));
-  EXPECT_EQ(value->kind, 0);
-  EXPECT_EQ(value->ival, 437);
-  EXPECT_EQ(value->next, nullptr);
-}
-
-TEST_F(ObjectTest, TokensOfListsAreNotShared) { EXPECT_NE(tokenValue(NIL), tokenValue(NIL)); }
-
-TEST_F(ObjectTest, NumberThatIsNoTokenMakesALoneValueAllTheSame) {
-  EXPECT_EQ(loneTokenValue(7)->ival, 7);
-}
-
 TEST_F(ObjectTest, StringValueHoldsACopy) {
   char text[] = "abcdef";
   const Value* value = stringValue(1, text, 3);

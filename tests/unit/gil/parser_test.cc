@@ -6,10 +6,10 @@
 #include <string>
 
 #include "gil/dump.h"
-#include "gil/keywords.h"
 #include "gil/scanner.h"
 #include "gil/tokens.h"
 #include "gil/version.h"
+#include "gil/words.h"
 #include "unit/support/session_fixture.h"
 
 class ParserTest : public SessionFixture {
@@ -177,7 +177,8 @@ TEST_F(ParserTest, ElementTypesAreTheSeventeen) {
       " base-window button canvas-pane control-area drop-target gauge group menu message "
       "popup-window"
       " scrolling-list setting slider stack term-pane text-field text-pane ";
-  for (const Keyword* keyword = keywords; keyword->text; ++keyword) {
+  for (const Word* keyword = kFirstWord; keyword <= kLastWord; ++keyword) {
+    if (!keyword->text) continue;
     const std::string text = keyword->text;
     const bool is_type = types.find(std::string(" ") + text + " ") != std::string::npos;
     EXPECT_EQ(FitsObject(std::string(":type :") + text + " :name a"), is_type) << text;
@@ -324,7 +325,8 @@ static const EnumerationCase kEnumerations[] = {
 
 TEST_F(ParserTest, EnumerationsTakeTheirWordsOnly) {
   for (const auto& [attribute, words] : kEnumerations) {
-    for (const Keyword* keyword = keywords; keyword->text; ++keyword) {
+    for (const Word* keyword = kFirstWord; keyword <= kLastWord; ++keyword) {
+      if (!keyword->text) continue;
       const std::string text = keyword->text;
       const bool is_word =
           std::string(words).find(std::string(" ") + text + " ") != std::string::npos;

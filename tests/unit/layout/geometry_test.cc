@@ -110,7 +110,7 @@ TEST_F(LayoutGeometry, LaterCausesStandWhereEarlierOnesMovedThem) {
 }
 
 struct Allowance {
-  FixedText class_name;
+  const char* class_name;
   int32_t dx, dy;
 };
 
@@ -121,9 +121,9 @@ TEST_F(LayoutGeometry, EachClassTakesItsOwnRoom) {
     Widg* cause = At(NewWidg(allowance.class_name, "cause"), 0, 0, 10, 10);
     Widg* below = At(NewWidg("XmLabel", "below"), 0, 100, 10, 10);
     FixUpGeometry(NewWidg("XmBulletinBoard", "board", {cause, below}));
-    EXPECT_EQ(LeftSidePos(below), allowance.dx) << allowance.class_name.text();
-    EXPECT_EQ(TopPos(below), 100 + allowance.dy) << allowance.class_name.text();
-    EXPECT_EQ(LeftSidePos(cause), allowance.dx) << allowance.class_name.text();
+    EXPECT_EQ(LeftSidePos(below), allowance.dx) << allowance.class_name;
+    EXPECT_EQ(TopPos(below), 100 + allowance.dy) << allowance.class_name;
+    EXPECT_EQ(LeftSidePos(cause), allowance.dx) << allowance.class_name;
   }
 }
 

@@ -174,24 +174,6 @@ TEST_F(NameTableTest, TextIsACopy) {
   EXPECT_STREQ(NameGet(&table, 0), "abc");
 }
 
-TEST_F(NameTableTest, NameWithoutMemoryEndsTheRun) {
-  const Outcome outcome = RunOutOfMemory(0, [this] { NameCreate(&table, "a"); });
-  EXPECT_EQ(outcome.status, -1);
-  EXPECT_EQ(outcome.err, "Error: Out of memory in NameCreate\n");
-}
-
-TEST_F(NameTableTest, NumberedNameWithoutMemoryEndsTheRun) {
-  Create("a1");
-  for (long requests : {0L, 1L}) {  // for the base, for the name
-    NameTable copy = table;
-    const Outcome outcome = RunOutOfMemory(requests, [&copy] { NameCreate(&copy, "a1"); });
-    EXPECT_EQ(outcome.status, -1) << requests;
-    EXPECT_EQ(outcome.err, "Error: Out of memory in NameCreate\n") << requests;
-  }
-  Create("b");
-  EXPECT_EQ(RunOutOfMemory(0, [this] { NameCreate(&table, "b"); }).status, -1);
-}
-
 // The search for a free number goes on where the last one ended, whichever form asked.
 TEST_F(NameTableTest, FormsOfOneBaseAskInTurn) {
   for (const char* name : {"a", "a7", "a1"}) Create(name);
@@ -260,11 +242,4 @@ TEST_F(NameTableTest, ResetForgetsTheInstanceNames) {
 TEST_F(NameTableTest, LegalCharacters) {
   EXPECT_STREQ(GetSetIdentifierLegalChars(), "_$");
   EXPECT_STREQ(GetSetTypeLegalChars(), "_$.()[]&->:");
-}
-
-TEST_F(NameTableTest, SystemErrorEndsTheRun) {
-  const Outcome outcome = Run([] { SystemErrorHandler(); });
-  EXPECT_EQ(outcome.status, 1);
-  EXPECT_EQ(outcome.out, "");
-  EXPECT_EQ(outcome.err, "Sorry, fatal error trying to convert GIL file.\n");
 }

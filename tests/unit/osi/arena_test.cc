@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "osi/arena.h"
+#include "osi/arena_testing.h"
 
 #include <gtest/gtest.h>
 

@@ -157,15 +157,6 @@ TEST(OsiRemoveEndDigits, TakesBytesAbove127AsTheyAre) {
             Left(3, "caf\xe9"));
 }
 
-TEST(OsiCutEndDigits, LeavesWhatRemovingLeaves) {
-  for (const char* text : {"name12", "123", "label12 \t\n", "name2000000000", "   ", "", "a"}) {
-    std::string cut = text;
-    OsiCutEndDigits(cut.data());
-    EXPECT_EQ(cut.c_str(), Remove(text).second) << text;
-  }
-  OsiCutEndDigits(nullptr);
-}
-
 TEST(OsiRemoveEndDigits, GivesZeroForNothing) {
   EXPECT_EQ(OsiRemoveEndDigits(nullptr), 0);
   EXPECT_EQ(Remove(""), Left(0, ""));

@@ -56,7 +56,7 @@ TEST_F(CleanUp, UnclaimedMenuBecomesAPopupAndIsDropped) {
   Widg* menu = Unclaimed("menu");
   TopLevel({menu, Shell("a")});
   RunCleanUp();
-  EXPECT_STREQ(menu->class_name.text(), "XmPopupMenu");
+  EXPECT_STREQ(menu->class_name, "XmPopupMenu");
   EXPECT_EQ(Names(top_widget), "a");
 }
 
@@ -74,7 +74,7 @@ TEST_F(CleanUp, ClaimedMenuLivesOnUnderItsUserWithoutTheOthers) {
   Widg* menu = Pulldown("menu");
   TopLevel({menu, Unclaimed("other")});
   Widg* button = NewWidg("XmCascadeButton", "button");
-  ClaimChild(button, menu);
+  SetChildren(button, menu);
   TopLevel({NewWidg("TopLevelShell", "shell", {button})});
   RunCleanUp();
   EXPECT_EQ(NameTree(top_widget), "shell(button(menu))");

@@ -73,7 +73,7 @@ TEST_F(ConvenienceWidgets, TreeThatLiesBelowItselfIsWalkedToAnEnd) {
   Widg* outer = NewWidg("XmForm", "form", {inner});
   AddChildWidg(inner, outer);
   ReplaceConvenienceWidgets(outer);
-  EXPECT_STREQ(inner->class_name.text(), "XmScrolledWindow");
+  EXPECT_STREQ(inner->class_name, "XmScrolledWindow");
 }
 
 }  // namespace

@@ -24,14 +24,14 @@ TEST_F(PopupParents, FirstPopupMenuAmongTheChildrenIsFound) {
 }
 
 TEST_F(PopupParents, ThreeClassesMayHoldPopupMenus) {
-  static const FixedText kValid[] = {"XmBulletinBoard", "XmRowColumn", "XmForm"};
-  for (FixedText valid : kValid) {
-    EXPECT_EQ(ValidPopupMenuParent(NewWidg(valid, "a")), 1) << valid.text();
+  static const char* const kValid[] = {"XmBulletinBoard", "XmRowColumn", "XmForm"};
+  for (const char* valid : kValid) {
+    EXPECT_EQ(ValidPopupMenuParent(NewWidg(valid, "a")), 1) << valid;
   }
-  static const FixedText kInvalid[] = {"XmPushButton", "XmDrawingArea", "TopLevelShell", "XmFrame",
-                                       ""};
-  for (FixedText invalid : kInvalid) {
-    EXPECT_EQ(ValidPopupMenuParent(NewWidg(invalid, "a")), 0) << invalid.text();
+  static const char* const kInvalid[] = {"XmPushButton", "XmDrawingArea", "TopLevelShell",
+                                         "XmFrame", ""};
+  for (const char* invalid : kInvalid) {
+    EXPECT_EQ(ValidPopupMenuParent(NewWidg(invalid, "a")), 0) << invalid;
   }
 }
 
@@ -97,7 +97,7 @@ TEST_F(PopupParents, WidgetOnTwoPathsLosesAMenuOnEach) {
   Widg* button = NewWidg("XmPushButton", "button", {Popup("m"), Popup("n")});
   Widg* first = NewWidg("XmForm", "first", {button});
   Widg* second = NewWidg("XmForm", "second");
-  ClaimChild(second, button);
+  SetChildren(second, button);
   MakePopupMenusValidForZO25(TopLevel({first, second}));
   EXPECT_EQ(NameTree(first->child), "button m n");
 }

@@ -23,7 +23,7 @@ TEST_F(CheckedTree, WidgetInTwoListsIsReported) {
   Widg* shared = Leaf("menu");
   Widg* a = NewWidg("XmForm", "a", {shared});
   Widg* b = NewWidg("XmForm", "b");
-  ClaimChild(b, shared);
+  SetChildren(b, shared);
   EXPECT_EQ(CheckWidgTree(Siblings({a, b})),
             "menu is in the children of b and in the children of a\n");
 }
@@ -32,7 +32,7 @@ TEST_F(CheckedTree, ChildThatIsTopLevelTooIsReported) {
   Widg* menu = Leaf("menu");
   Widg* button = NewWidg("XmCascadeButton", "button");
   TopLevel({button, menu});
-  ClaimChild(button, menu);
+  SetChildren(button, menu);
   EXPECT_EQ(CheckWidgTree(button), "menu is in the top level and in the children of button\n");
 }
 

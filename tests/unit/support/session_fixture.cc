@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "unit/support/session_fixture.h"
+#include "osi/arena_testing.h"
 
 #include <stdlib.h>
 #include <unistd.h>

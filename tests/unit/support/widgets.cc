@@ -13,7 +13,8 @@ static constexpr int kDeepestTree = 50;
 
 char* Writable(std::string_view text) { return ArenaText(text.data(), text.size()); }
 
-Widg* NewWidg(FixedText class_name, std::string_view name, std::initializer_list<Widg*> children) {
+Widg* NewWidg(const char* class_name, std::string_view name,
+              std::initializer_list<Widg*> children) {
   Widg* widg = MakeWidg(class_name, Writable(name));
   for (Widg* child : children) AddChildWidg(widg, child);
   return widg;
@@ -62,7 +63,7 @@ static void AppendItem(std::string* text, const std::string& separator, const st
 std::string Resources(const Widg* widg) {
   std::string text;
   for (const Resource* resource = widg->resources; resource; resource = resource->next) {
-    AppendItem(&text, " ", std::string(resource->name.text()) + "=" + resource->value);
+    AppendItem(&text, " ", std::string(resource->name) + "=" + resource->value);
   }
   return text;
 }
@@ -108,7 +109,7 @@ static std::string ListText(const Widg* first, Label label, int depth) {
 
 static const char* GilName(const Widg* widg) { return widg->gil_name; }
 static const char* InstanceName(const Widg* widg) { return widg->name; }
-static const char* ClassName(const Widg* widg) { return widg->class_name.text(); }
+static const char* ClassName(const Widg* widg) { return widg->class_name; }
 
 std::string Names(const Widg* first) {
   std::string text;

@@ -14,7 +14,7 @@
 char* Writable(std::string_view text);
 
 // A widget of that class, requested as `name`, with the children appended one by one.
-Widg* NewWidg(FixedText class_name, std::string_view name,
+Widg* NewWidg(const char* class_name, std::string_view name,
               std::initializer_list<Widg*> children = {});
 
 // Links widgets that are in no list yet as siblings; returns the first.
@@ -24,7 +24,7 @@ Widg* Siblings(std::initializer_list<Widg*> widgets);
 Widg* TopLevel(std::initializer_list<Widg*> widgets);
 
 struct Setting {
-  FixedText name;
+  const char* name;
   const char* value;
 };
 

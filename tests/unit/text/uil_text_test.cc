@@ -13,13 +13,6 @@ static std::string WithoutDigit(std::string text) { return ReplaceTrailingDigit(
 
 static std::string WithoutQuotes(std::string text) { return RemoveQuotes(text.data()); }
 
-TEST_F(StringsTest, ErrorEndsTheRunWithItsMessage) {
-  const Outcome outcome = Run([] { Error("Parse error"); });
-  EXPECT_EQ(outcome.status, -1);
-  EXPECT_EQ(outcome.out, "");
-  EXPECT_EQ(outcome.err, "Error: Parse error\n");
-}
-
 TEST_F(StringsTest, IntToStringIsDecimal) {
   EXPECT_STREQ(IntToString(0), "0");
   EXPECT_STREQ(IntToString(-12), "-12");

@@ -5,7 +5,6 @@
 #include <string>
 
 #include "flags/flags.h"
-#include "names/name_table.h"
 #include "unit/support/session_fixture.h"
 #include "widget/callbacks.h"
 #include "widget/procedures.h"
@@ -17,7 +16,7 @@ class WriterTest : public SessionFixture {
   WriterTest() { usezo = 0; }
 
   // A widget of its own texts, below `parent` unless that is null.
-  static Widg* New(FixedText class_name, std::string name, Widg* parent = nullptr) {
+  static Widg* New(const char* class_name, std::string name, Widg* parent = nullptr) {
     Widg* widg = MakeWidg(class_name, name.data());
     if (!parent) return widg;
     Widg** end = &parent->child;
@@ -341,59 +340,6 @@ TEST_F(WriterTest, CallbacksOfDifferentNamesStandUnderTheFirst) {
             std::string::npos)
       << module;
   EXPECT_EQ(module.find("XmNhelpCallback"), std::string::npos);
-}
-
-// Procedure names
-
-TEST_F(WriterTest, ProcedureNamedLikeAnInstanceIsCapitalisedWhereverItIsShared) {
-  Widg* a = New("XmPushButton", "quit");
-  Call(a, "XmNactivateCallback", quit);
-  const std::string module = Write(a);
-  EXPECT_EQ(err, "Changing procedure named quit to Quit to avoid name collision\n");
-  EXPECT_NE(module.find("\nprocedure Quit;\n"), std::string::npos) << module;
-  EXPECT_NE(module.find("XmNactivateCallback = procedure Quit();"), std::string::npos) << module;
-  EXPECT_STREQ(quit, "Quit");
-}
-
-TEST_F(WriterTest, OtherCopyOfTheProcedureKeepsItsName) {
-  char copy[] = "quit";
-  Widg* a = New("XmPushButton", "quit");
-  Call(a, "XmNactivateCallback", quit);
-  a->next = New("XmPushButton", "b");
-  Call(a->next, "XmNactivateCallback", copy);
-  const std::string module = Write(a);
-  EXPECT_NE(module.find("procedure Quit();"), std::string::npos) << module;
-  EXPECT_NE(module.find("procedure quit();"), std::string::npos) << module;
-}
-
-TEST_F(WriterTest, ProcedureNamedLikeAReservedWordIsCapitalised) {
-  char on[] = "on";
-  InsertProcedure(on);
-  EXPECT_NE(Write(nullptr).find("\nprocedure On;\n"), std::string::npos);
-  EXPECT_EQ(err, "Changing procedure named on to On to avoid name collision\n");
-}
-
-TEST_F(WriterTest, CapitalisedNameIsNotLookedUpAgain) {
-  New("XmLabel", "quit");
-  NameCreate(InstanceNameTbl(), "Quit");
-  InsertProcedure(quit);
-  EXPECT_NE(Write(nullptr).find("\nprocedure Quit;\n"), std::string::npos);
-}
-
-TEST_F(WriterTest, NameThatIsCapitalAlreadyIsToldAndStays) {
-  NameCreate(InstanceNameTbl(), "Quit");
-  quit[0] = 'Q';
-  InsertProcedure(quit);
-  EXPECT_NE(Write(nullptr).find("\nprocedure Quit;\n"), std::string::npos);
-  EXPECT_EQ(err, "Changing procedure named Quit to Quit to avoid name collision\n");
-}
-
-TEST_F(WriterTest, BuilderKeepsProcedureNames) {
-  usezo = 1;
-  Widg* a = New("XmPushButton", "quit");
-  Call(a, "XmNactivateCallback", quit);
-  EXPECT_NE(Write(a).find("\nprocedure quit;\n"), std::string::npos);
-  EXPECT_EQ(err, "");
 }
 
 // Odd trees

@@ -35,7 +35,7 @@ TEST_F(WidgCopy, CopyTakesOverWhatIsNotLinksOrGeometry) {
   widg->extra_width = 5;
   widg->extra_height = 10;
   const Widg* copy = CopyWidg(widg);
-  EXPECT_STREQ(copy->class_name.text(), "XmPushButton");
+  EXPECT_STREQ(copy->class_name, "XmPushButton");
   EXPECT_EQ(copy->actions, widg->actions);
   EXPECT_EQ(copy->managed, 0);
   EXPECT_EQ(copy->wrapped, 1);

@@ -226,7 +226,7 @@ TEST_F(WidgLinks, ClaimedChildBringsWhatStandsBehindIt) {
   Widg* menu = Leaf("menu");
   TopLevel({menu, Leaf("shell")});
   Widg* button = NewWidg("XmCascadeButton", "button");
-  ClaimChild(button, menu);
+  SetChildren(button, menu);
   EXPECT_EQ(NameTree(button), "button(menu shell)");
   EXPECT_EQ(Names(top_widget), "menu shell");
 }

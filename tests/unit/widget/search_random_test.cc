@@ -10,12 +10,13 @@
 #include <vector>
 
 #include "flags/flags.h"
+#include "passes/clean_up.h"
+#include "unit/support/checked_searches.h"
 #include "unit/support/session_fixture.h"
 #include "unit/support/widgets.h"
 #include "widget/copy.h"
 #include "widget/links.h"
-#include "widget/name_index.h"
-#include "passes/clean_up.h"
+#include "widget/plain_search.h"
 #include "widget/search.h"
 #include "widget/tree.h"
 
@@ -32,16 +33,19 @@ class RandomProject {
     usezo = 1;
     zo25 = Chance(50);
     names_ = 2 + Number(6);
-    units_ = Chance(80);
   }
 
   void Convert() {
-    for (int file = 0; file < kFiles && !testing::Test::HasFailure(); ++file) {
-      if (!ConvertFile()) return;
-    }
+    for (int file = 0; file < kFiles && !testing::Test::HasFailure(); ++file) ConvertFile();
   }
 
  private:
+  static bool IsInTree(const Widg* wanted) {
+    return FindFirst(
+        top_widget, NewVisit(), [](const Widg*) { return true; },
+        [wanted](const Widg* widg) { return widg == wanted; });
+  }
+
   int Number(int bound) { return std::uniform_int_distribution<int>(0, bound - 1)(random_); }
   bool Chance(int percent) { return Number(100) < percent; }
 
@@ -51,7 +55,7 @@ class RandomProject {
     return Writable(std::string(number == 0 ? "N" : "n").append(std::to_string(number)));
   }
 
-  Widg* New(FixedText class_name) {
+  Widg* New(const char* class_name) {
     widgets_.push_back(MakeWidg(class_name, Name()));
     return widgets_.back();
   }
@@ -60,7 +64,8 @@ class RandomProject {
     ExpectAgreementOnNames();
     ExpectAgreementOnNames();  // now the searches remember
     for (Widg* widg : widgets_) {
-      EXPECT_EQ(FindParentOfWidg(top_widget, widg), FindParentOfWidgInTree(top_widget, widg));
+      if (!IsInTree(widg)) continue;
+      EXPECT_EQ(FindParentOfWidg(top_widget, widg), FindParentOfWidgPlainly(top_widget, widg));
     }
   }
 
@@ -68,14 +73,14 @@ class RandomProject {
     for (int i = 0; i < names_; ++i) {
       for (const char* letter : {"n", "N"}) {
         const std::string name = std::string(letter).append(std::to_string(i));
-        EXPECT_EQ(FindWidg(top_widget, name.c_str()), FindWidgInTree(top_widget, name.c_str()));
+        EXPECT_EQ(FindWidg(top_widget, name.c_str()), FindWidgPlainly(top_widget, name.c_str()));
         EXPECT_EQ(FindWidgWithChild(top_widget, name.c_str()),
-                  FindWidgWithChildInTree(top_widget, name.c_str()));
+                  FindWidgWithChildPlainly(top_widget, name.c_str()));
       }
     }
   }
 
-  static Widg* ClaimAs(Widg* menu, FixedText wanted, FixedText other) {
+  static Widg* ClaimAs(Widg* menu, const char* wanted, const char* other) {
     if (IsClass(menu, other)) menu = CopyWidgTree(menu);
     menu->class_name = wanted;
     return menu;
@@ -88,7 +93,7 @@ class RandomProject {
 
   void ClaimPulldown(Widg* button) {
     Widg* menu = FindWidg(top_widget, Name());
-    if (menu) ClaimChild(button, ClaimAs(menu, "XmPulldownMenu", "XmPopupMenu"));
+    if (menu) SetChildren(button, ClaimAs(menu, "XmPulldownMenu", "XmPopupMenu"));
   }
 
   // A menu gets new items in the place of whatever it owned.
@@ -141,11 +146,11 @@ class RandomProject {
   }
 
   // Converts an object with what it owns; null for a dropped group.
-  Widg* ConvertObject(FixedText class_name, int depth) {
+  Widg* ConvertObject(const char* class_name, int depth) {
     Widg* widg = New(class_name);
     for (int i = depth < kMaxDepth ? Number(3) : 0; i > 0; --i) {
-      static const FixedText kOwned[] = {"XmBulletinBoard", "XmLabel", "XmScrolledText",
-                                         "XmUnknownMenu"};
+      static const char* const kOwned[] = {"XmBulletinBoard", "XmLabel", "XmScrolledText",
+                                           "XmUnknownMenu"};
       Widg* child = ConvertObject(kOwned[Number(4)], depth + 1);
       if (child) AddChildWidg(widg, child);
     }
@@ -177,43 +182,27 @@ class RandomProject {
     return result;
   }
 
-  // False when no further file can follow.
-  bool ConvertFile() {
-    NameIndexNewFile();
+  void ConvertFile() {
     Widg** link = top_widget ? &LastSibling(top_widget)->next : &top_widget;
     Widg* last = nullptr;
     const int menus = Number(3);
     const int objects = menus + 1 + Number(kMaxObjects);
     for (int i = 0; i < objects && !testing::Test::HasFailure(); ++i) {
-      if (units_) NameIndexNewUnit();
       const bool is_group = i > menus && Chance(20);
-      Widg* widg =
-          is_group ? New("XmBulletinBoard")
-                   : ConvertObject(i < menus ? FixedText("XmUnknownMenu") : FixedText("XmForm"), 0);
+      Widg* widg = is_group ? New("XmBulletinBoard")
+                            : ConvertObject(i < menus ? "XmUnknownMenu" : "XmForm", 0);
       if (is_group) Gather(widg);
       if (!widg || is_group) continue;
       LinkTopLevel(last && *link ? &last->next : link, widg);
       last = widg;
       ExpectAgreement();
     }
-    Widg* first = CleanUpTopLevelHierarchy(link);
-    // The end of the earlier files may have come into the new list by now: that project is over.
-    if (EndsWithLink(first, link)) return false;
-    *link = first;
+    RelinkTopLevel(link, CleanUpTopLevelHierarchy(link));
     ExpectAgreement();
-    return true;
-  }
-
-  static bool EndsWithLink(Widg* first, Widg** link) {
-    for (Widg* widg = first; widg; widg = widg->next) {
-      if (&widg->next == link) return true;
-    }
-    return false;
   }
 
   std::mt19937 random_;
   int names_ = 0;
-  bool units_ = true;  // each top-level object is one, as in the converter; else each file
   std::vector<Widg*> widgets_;
 };
 

@@ -76,9 +76,9 @@ TEST_F(WidgTree, NullNameCountsAsEmpty) {
 }
 
 TEST_F(WidgTree, NewWidgetIsManagedAndOtherwiseBlank) {
-  const FixedText class_name = "XmLabel";
+  const char* const class_name = "XmLabel";
   const Widg* widg = NewWidg(class_name, "title");
-  EXPECT_EQ(widg->class_name.text(), class_name.text());
+  EXPECT_EQ(widg->class_name, class_name);
   EXPECT_EQ(widg->managed, 1);
   EXPECT_EQ(widg->next, nullptr);
   EXPECT_EQ(widg->child, nullptr);
@@ -103,10 +103,10 @@ TEST_F(WidgTree, ClassesAreComparedWhole) {
 }
 
 TEST_F(WidgTree, RecordsKeepTheCallersTexts) {
-  const FixedText resource_name = "XmNx";
+  const char* const resource_name = "XmNx";
   const char* value = "1";
   const Resource* resource = MakeResource(resource_name, value);
-  EXPECT_EQ(resource->name.text(), resource_name.text());
+  EXPECT_EQ(resource->name, resource_name);
   EXPECT_EQ(resource->value, value);
   EXPECT_EQ(resource->next, nullptr);
 

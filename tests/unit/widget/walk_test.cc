@@ -9,6 +9,7 @@
 #include "unit/support/session_fixture.h"
 #include "unit/support/widgets.h"
 #include "widget/links.h"
+#include "widget/walk_testing.h"
 
 namespace {
 
@@ -53,7 +54,7 @@ TEST_F(WidgWalk, WidgetOnTwoPathsIsHandledTwice) {
   Widg* shared = Leaf("m");
   Widg* a = NewWidg("XmForm", "a", {shared});
   Widg* b = NewWidg("XmForm", "b");
-  ClaimChild(b, shared);
+  SetChildren(b, shared);
   EXPECT_EQ(Handled(Siblings({a, b}), kChildrenFirst), "mamb");
 }
 
@@ -80,7 +81,7 @@ Widg* ManyPaths(int levels) {
     Widg* left = Leaf("l");
     Widg* right = Leaf("r");
     SetChildren(left, below);
-    ClaimChild(right, below);
+    SetChildren(right, below);
     below = Siblings({left, right});
   }
   return below;

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
-// The keyword table against two lists written in words: the tokens in the order of their numbers,
-// and the keywords in search order. A keyword's token is its text in capitals with "_" for "-".
-#include "gil/keywords.h"
+// The table of words against two lists: the tokens in the order of their numbers, and the keywords.
+// A keyword's token is its text in capitals with "_" for "-".
+#include "gil/words.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <array>
 #include <cctype>
 #include <cstring>
 #include <map>
@@ -96,10 +94,12 @@ static std::string TokenNameOf(std::string text) {
   return text;
 }
 
-static std::vector<std::string> TableTexts() {
-  std::vector<std::string> texts;
-  for (const Keyword* keyword = keywords; keyword->text; ++keyword) texts.push_back(keyword->text);
-  return texts;
+static std::vector<Word> Keywords() {
+  std::vector<Word> keywords;
+  for (const Word* word = kFirstWord; word <= kLastWord; ++word) {
+    if (word->text) keywords.push_back(*word);
+  }
+  return keywords;
 }
 
 TEST(TokensTest, AreNumberedInOrder) {
@@ -111,28 +111,38 @@ TEST(TokensTest, AreNumberedInOrder) {
   EXPECT_EQ(numbers.at("INTEGER_VALUE"), INTEGER_VALUE);
 }
 
-TEST(KeywordsTest, StandInSearchOrder) { EXPECT_EQ(TableTexts(), Words(kKeywordTexts)); }
+TEST(KeywordsTest, AreThoseOfTheFormat) {
+  std::multiset<std::string> texts;
+  for (const Word& keyword : Keywords()) texts.insert(keyword.text);
+  const std::vector<std::string> wanted = Words(kKeywordTexts);
+  EXPECT_EQ(wanted.size(), 187U);
+  EXPECT_EQ(texts, std::multiset<std::string>(wanted.begin(), wanted.end()));
+}
 
-TEST(KeywordsTest, AreEndedByANullText) {
-  EXPECT_EQ(TableTexts().size(), 187U);
-  EXPECT_EQ(keywords[187].text, nullptr);
+TEST(WordsTest, StandAtTheirTokens) {
+  for (int32_t token = kFirstToken; token <= kLastToken; ++token) {
+    EXPECT_EQ(WordOfToken(token)->token, token);
+  }
+  EXPECT_EQ(WordOfToken(kFirstToken - 1), nullptr);
+  EXPECT_EQ(WordOfToken(kLastToken + 1), nullptr);
+  EXPECT_EQ(WordOfToken(END_OF_INPUT), nullptr);
 }
 
 TEST(KeywordsTest, NameTheTokenOfTheirText) {
   const auto numbers = NumbersByName();
-  for (const Keyword* keyword = keywords; keyword->text; ++keyword) {
-    const auto number = numbers.find(TokenNameOf(keyword->text));
-    ASSERT_NE(number, numbers.end()) << keyword->text;
-    EXPECT_EQ(keyword->token, number->second) << keyword->text;
+  for (const Word& keyword : Keywords()) {
+    const auto number = numbers.find(TokenNameOf(keyword.text));
+    ASSERT_NE(number, numbers.end()) << keyword.text;
+    EXPECT_EQ(keyword.token, number->second) << keyword.text;
   }
 }
 
 TEST(KeywordsTest, NeitherTextsNorTokensRepeat) {
   std::set<std::string> texts;
   std::set<int32_t> tokens;
-  for (const Keyword* keyword = keywords; keyword->text; ++keyword) {
-    EXPECT_TRUE(texts.insert(keyword->text).second) << keyword->text;
-    EXPECT_TRUE(tokens.insert(keyword->token).second) << keyword->text;
+  for (const Word& keyword : Keywords()) {
+    EXPECT_TRUE(texts.insert(keyword.text).second) << keyword.text;
+    EXPECT_TRUE(tokens.insert(keyword.token).second) << keyword.text;
   }
 }
 
@@ -145,19 +155,16 @@ TEST(KeywordsTest, LackOnlyWhatTheScannerMakesOtherwise) {
                                         GIL_VERSION_3, IDENTIFIER, INTEGER_VALUE}));
 }
 
-// The token of the keyword with the first `length` bytes of `text`, or 0.
+// The token of the keyword that these bytes are, or 0.
 static int32_t TokenOf(const char* text, std::size_t length) {
-  std::array<char, kKeywordRoom> room{};
-  EXPECT_LE(length, room.size());
-  std::memcpy(room.data(), text, std::min(length, room.size()));
-  const Keyword* keyword = FindKeyword(room.data(), length);
+  const Word* keyword = FindKeyword(text, length);
   return keyword ? keyword->token : 0;
 }
 
 TEST(KeywordsTest, AreFoundByTextAndByToken) {
-  for (const Keyword* keyword = keywords; keyword->text; ++keyword) {
-    EXPECT_EQ(TokenOf(keyword->text, std::strlen(keyword->text)), keyword->token);
-    EXPECT_STREQ(KeywordText(keyword->token), keyword->text);
+  for (const Word& keyword : Keywords()) {
+    EXPECT_EQ(TokenOf(keyword.text, std::strlen(keyword.text)), keyword.token);
+    EXPECT_STREQ(KeywordText(keyword.token), keyword.text);
   }
 }
 
