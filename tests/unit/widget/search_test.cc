@@ -9,7 +9,6 @@
 #include "unit/support/session_fixture.h"
 #include "unit/support/widgets.h"
 #include "widget/links.h"
-#include "widget/nesting.h"
 #include "widget/tree.h"
 
 namespace {
@@ -174,18 +173,6 @@ TEST_F(WidgSearch, NullIsNobodysChildAndNobodysParent) {
   EXPECT_EQ(IsChild(nullptr, widg), 0);
   EXPECT_EQ(IsChild(widg, nullptr), 0);
   EXPECT_EQ(IsChild(nullptr, nullptr), 0);
-}
-
-TEST_F(WidgSearch, PredecessorOfTheFirstChildIsTheParent) {
-  Widg* a = Leaf("a");
-  Widg* b = Leaf("b");
-  Widg* c = Leaf("c");
-  Widg* parent = NewWidg("XmForm", "p", {a, b, c});
-  EXPECT_EQ(PrevSibling(parent, a), parent);
-  EXPECT_EQ(PrevSibling(parent, b), a);
-  EXPECT_EQ(PrevSibling(parent, c), b);
-  EXPECT_EQ(PrevSibling(parent, Leaf("d")), nullptr);
-  EXPECT_EQ(PrevSibling(a, b), nullptr);
 }
 
 TEST_F(WidgSearch, WidgetBelowItselfDoesNotStopASearch) {
