@@ -49,7 +49,7 @@ def test_examples(tree, folder, name, runner):
     log = (out / "weather.G.log").read_text()
     expect(f"{name}: the log has the notes of both programs",
            "Glyph Filename encountered" in log and "pandrel-uilfix: line" in log, log)
-    expect(f"{name}: the module is mended", "XmMULTI_LINE_EDIT" in (out / "weather.uil").read_text())
+    expect(f"{name}: the module is mended", "unmanaged XmPopupMenu" in (out / "weather.uil").read_text())
     expect(f"{name}: nothing but results is left", not list(out.rglob("*.part")) + list(out.rglob(".bitmaps.lock")))
 
 
