@@ -8,6 +8,8 @@ empty, and keeps all that the programs say in <stem>.log beside the module. Icon
 of as warnings.
 ]]
 cmake_path(REPLACE_EXTENSION UIL LAST_ONLY ".log" OUTPUT_VARIABLE log)
+# Two conversions must not make the same bitmap at once.
+file(LOCK . DIRECTORY GUARD PROCESS)
 # The module gets its name only when it is whole: pandrel empties its output before it reads.
 set(part "${UIL}.part")
 

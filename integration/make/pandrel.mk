@@ -26,6 +26,8 @@ endif
 ifeq ($(origin PANDREL_UILFIX),undefined)
 PANDREL_UILFIX := $(firstword $(wildcard $(pandrel_bin)/pandrel-uilfix) pandrel-uilfix)
 endif
+# Two conversions must not make the same bitmap at once; the folder is locked.
+PANDREL_LOCK ?= $(if $(shell command -v flock),flock .)
 UIL ?= uil
 # uil can loop on a string that is not closed; no real module takes it a minute.
 UIL_TIME_LIMIT ?= 60
@@ -33,7 +35,7 @@ UIL_TIME_LIMIT ?= 60
 # The module gets its name only when it is whole: pandrel empties its output before it reads. When it
 # fails, what it said last is shown; what it says of icons always.
 define pandrel_convert
-cd $(<D) && $(PANDREL) $(PANDREL_FLAGS) $(abspath $@).part < $(<F) > $(abspath $(@:.uil=.log)) 2>&1 || \
+cd $(<D) && $(PANDREL_LOCK) $(PANDREL) $(PANDREL_FLAGS) $(abspath $@).part < $(<F) > $(abspath $(@:.uil=.log)) 2>&1 || \
   { tail -n 5 $(abspath $(@:.uil=.log)) >&2; rm -f $(abspath $@).part; exit 1; }
 @grep '^Cannot access glyph filename' $(@:.uil=.log) >&2 || :
 $(if $(PANDREL_UILFIX),$(PANDREL_UILFIX) $(PANDREL_UILFIX_FLAGS) -o $@.mended $@.part 2>> $(@:.uil=.log) && mv $@.mended $@.part)
