@@ -192,9 +192,8 @@ def check(converter, section, header, cells):
 
 def source_classes(module, item):
     """The classes of what an event may come from: the object, or its items."""
-    if item:
-        return {module.classes.get(name) for name in module.children.get("o", ())}
-    return {module.classes.get("o"), module.classes.get("o1")}
+    names = module.children.get("o", ()) if item else ("o", "o1")
+    return {module.classes[name] for name in names if name in module.classes}
 
 
 def untrue(make, last):
