@@ -236,14 +236,9 @@ def unnamed_actions(page):
 
 
 def known_words():
-    """The object types and attributes that the reader's tables hold, with their colons."""
-    keywords = dict((token, text) for text, token in
-                    re.findall(r'\{"([\w-]+)", (\w+)\}', (ROOT / "src/gil/keywords.cc").read_text()))
-    forms = (ROOT / "src/gil/attribute_forms.cc").read_text().split("kAttributes[] = {")[1].split("\n};")[0]
-    words = re.findall(r"\{k\w+, (\w+)\}", forms)
-    manual = (ROOT / "man/gil.5").read_text()
-    types = re.search(r"\.Ss Types\n(.*?)\.Ss", manual, re.S).group(1)
-    return {":" + keywords[word] for word in words} | set(re.findall(r":[a-z-]+", types))
+    """The object types and attributes in the reader's table of words, with their colons."""
+    rows = re.findall(r'^WORD\(\w+, +"([\w-]+)", +(.+?), +([^,]+)\)$', (ROOT / "src/gil/words.def").read_text(), re.M)
+    return {":" + text for text, value, word_of in rows if value != "kNoValue" or "kElementType" in word_of}
 
 
 def main():
