@@ -4,7 +4,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <string>
 
 #include "convert/actions.h"
 #include "convert/objects.h"
@@ -35,7 +34,9 @@ static bool IsGilFile(const char* name) {
 std::FILE* OpenOutput() {
   if (!outfile) return stdout;
   if (IsGilFile(outfile)) {
-    Error((std::string(outfile) + " is a GIL file; the operand names the module to write").c_str());
+    std::fprintf(stderr, "Error: %s is a GIL file; the operand names the module to write\n",
+                 outfile);
+    OsiExit(-1);
   }
   std::FILE* output = std::fopen(outfile, "w");
   if (!output) {

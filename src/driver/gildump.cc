@@ -10,7 +10,7 @@
 int main() {
   OsiEndOnExhaustedMemory();
   HoldStandardStreams();
-  TellIfInputIsTerminal("gildump");
+  TellIfInputIsTerminal("gildump: reading a GIL file from the terminal\n");
   const Obj* objects = ParseGILFile();
   generate(project ? project : objects);
   OsiExit(0);

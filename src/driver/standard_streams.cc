@@ -18,10 +18,6 @@ void HoldStandardStreams() {
   }
 }
 
-void TellIfInputIsTerminal(const char* program) {
-  if (verbose && isatty(STDIN_FILENO)) {
-    std::fprintf(stderr,
-                 "%s: reading a GIL file from the terminal; pandrel -help lists the options\n",
-                 program);
-  }
+void TellIfInputIsTerminal(const char* notice) {
+  if (verbose && isatty(STDIN_FILENO)) std::fputs(notice, stderr);
 }

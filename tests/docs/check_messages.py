@@ -32,7 +32,7 @@ INTERNAL = {
     "Unknown value for INITIAL_STATE %d", "TextField: Unknown INITIAL_VALUE type: %d",
     "Bad Value: Slider ORIENTATION", "SpecProcSetting: cannot handle SETTING_TYPE: %d",
     "***Unknown menu type: %d", "MakeStringTable passed NULL string_value",
-    "ERROR: MakeSubHier: parent and child are not", "A search and the tree disagree",
+    "ERROR: MakeSubHier: parent and child are not",
     "Bad attribute passed to ProcessStdAttributes", "Sorry, fatal error trying to convert GIL file.",
     "Illegal value type: %d", "OsiProcExec: File %s not found", "OsiProcExec: Failed to exec %s",
 }
