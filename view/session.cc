@@ -88,15 +88,16 @@ std::vector<std::string> PinnedDialogs(const Interface& interface,
 // What the session and the toolkit's handlers share. There is one session per process.
 struct Session {
   Windows windows;
-  std::string file;       // as the user named it
-  bool compiled = false;  // the file is a compiled module, which may be damaged
+  MrmHierarchy hierarchy = nullptr;  // open to the end
+  std::string file;                  // as the user named it
+  bool compiled = false;             // the file is a compiled module, which may be damaged
   HeldErrors* held = nullptr;
   std::filesystem::path places;
 };
 Session session;
 
 // The toolkit calls this when it cannot go on.
-void GiveUp(String message) {
+__attribute__((noreturn)) void GiveUp(String message) {
   if (session.held && session.compiled) session.held->Discard();
   std::cerr << kProgram << ": " << session.file
             << (session.compiled ? ": damaged: " : ": the toolkit gives up: ") << message
@@ -292,7 +293,7 @@ int RunSession(const Options& options, const Interface& interface, const Session
 
   std::string uid = interface.uid.string();
   char* files[] = {uid.data()};
-  MrmHierarchy hierarchy = nullptr;
+  MrmHierarchy& hierarchy = session.hierarchy;
   bool ok = interface.left_out.empty();
   std::vector<MissingPart> missing;
   {
