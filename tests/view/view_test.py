@@ -143,6 +143,14 @@ class Actions(WithServer):
         self.server.xdotool("key", "End")
         self.server.xdotool("type", "1x2")
         self.assertIn('value="712"', viewer.listing()["count"].rest)
+        # A sign at the start, one of them, and nothing before it.
+        self.server.xdotool("key", "Home")
+        self.server.xdotool("type", "--", "-")
+        self.server.xdotool("key", "Home")
+        self.server.xdotool("type", "+5")
+        self.server.xdotool("key", "End")
+        self.server.xdotool("type", "+")
+        self.assertIn('value="-712"', viewer.listing()["count"].rest)
 
     def test_help_comes_on_the_help_key_and_not_on_activation(self):
         viewer = self.start("-zo30", ACTIONS)
@@ -238,12 +246,11 @@ class Windows(WithServer):
         other.write_text(text.replace('"Greet"', '"Wave"'), encoding="latin-1")
         other.replace(source)
         end = time.monotonic() + SECONDS
-        label = None
-        while label != "Wave" and time.monotonic() < end:
-            widgets = viewer.listing() if viewer.server.xdotool(
-                "search", "--onlyvisible", "--name", "^Hello$") else {}
-            label = widgets["greetButton"].label if "greetButton" in widgets else None
-        self.assertEqual(label, "Wave")
+        shown = window
+        while shown in (None, window) and time.monotonic() < end:
+            shown = next(iter(self.server.xdotool("search", "--onlyvisible", "--name", "^Hello$")),
+                         None)
+        self.assertEqual(viewer.listing()["greetButton"].label, "Wave")
         place = "\n".join(self.server.xdotool("getwindowgeometry", "--shell",
                                               viewer.wait_for_window("Hello")))
         self.assertIn("X=200\nY=150", place)
@@ -695,7 +702,9 @@ class Mistakes(WithServer):
                 damaged[state // 8 % len(damaged)] = state // 65536 % 256
             file = self.folder / "damaged.uid"
             file.write_bytes(damaged[:len(data) // 2] if round_number % 5 == 4 else damaged)
-            done = run(self.server, "--check=tab", file)
+            # What the resource manager does not give back of a damaged file is its own affair.
+            done = run(self.server, "--check=tab", file,
+                       env=dict(self.server.environment(PROGRAMS), ASAN_OPTIONS="detect_leaks=0"))
             self.assertIn(done.returncode, (0, 1), f"{round_number}: {done.stderr}")
             ours = [line for line in done.stderr.splitlines() if line.startswith("pandrel-view: ")]
             self.assertEqual(ours, done.stderr.splitlines(), round_number)
@@ -733,10 +742,13 @@ class Mistakes(WithServer):
         viewer = self.start(self.write("nobody.G", text))
         if not shutil.which("xdotool"):
             self.skipTest("xdotool is not installed")
-        viewer.click("Actions", viewer.listing()["disableButton"])
+        button = viewer.listing()["disableButton"]
+        viewer.click("Actions", button)
+        viewer.click("Actions", button)
         time.sleep(0.5)
         viewer.process.terminate()
-        self.assertIn("ZoSetInsensitiveCB: no widget named Nobody", viewer.process.stderr.read())
+        self.assertEqual(viewer.process.stderr.read(),
+                         "pandrel-view: ZoSetInsensitiveCB: no widget named Nobody\n")
 
 
 class Informing(unittest.TestCase):
