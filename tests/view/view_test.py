@@ -315,6 +315,15 @@ class CleaningUp(WithServer):
             slow.unlink()
             self.check_gone()
 
+    def test_being_killed(self):
+        # Nobody can clean up then, so nothing is there by then.
+        viewer = self.start_viewer(EXAMPLES / "hello.G")
+        self.wait_for(lambda: self.server.xdotool("search", "--onlyvisible", "--name", "^Hello$"))
+        self.wait_for(lambda: not list(self.scratch.rglob("*")))
+        viewer.kill()
+        viewer.wait(timeout=SECONDS)
+        self.wait_for(lambda: not self.server.xdotool("search", "--name", "^Hello$"))
+
     def test_crash(self):
         viewer = self.start_viewer(EXAMPLES / "hello.G")
         self.wait_for(lambda: self.server.xdotool("search", "--onlyvisible", "--name", "^Hello$"))
