@@ -2,6 +2,7 @@
 #include "convert/label_type.h"
 
 #include <cstdlib>
+#include <memory>
 
 #include "gil/tokens.h"
 #include "gil/value.h"
@@ -15,9 +16,8 @@ void HandleWidgLabelAndType(Widg* widg, const Value* label, const Value* label_t
     AddResource(widg, "XmNlabelString", text);
     return;
   }
-  char* value = ProcessGlyphFilename(text);
-  const char* pixmap = MergeStrings(value, "");
-  std::free(value);
+  const std::unique_ptr<char, void (*)(void*)> value(ProcessGlyphFilename(text), std::free);
+  const char* pixmap = MergeStrings(value.get(), "");
   // Never written; actions find the item of a setting or a menu by it.
   AddResource(widg, "XmNoriginalPixmapName", text);
   AddResource(widg, "XmNlabelType", "XmPIXMAP");

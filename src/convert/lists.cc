@@ -12,7 +12,7 @@
 #include "gil/value.h"
 #include "osi/arena.h"
 #include "osi/fatal.h"
-#include "osi/memory.h"
+#include "osi/owned_text.h"
 #include "osi/strings.h"
 #include "text/uil_text.h"
 #include "widget/links.h"
@@ -88,8 +88,8 @@ static void SetItems(Obj* obj, Widg* list) {
   char* table = nullptr;
   const int count = MakeStringTable(values, &table);
   if (count == 0) return;
+  const OsiOwnedText owner(table);
   AddResource(list, "XmNitems", MergeStrings(table, ""));
-  OsiFree(table);
   AddResource(list, "XmNitemCount", IntToString(count));
 }
 
