@@ -82,6 +82,12 @@ TEST_F(ScannerTest, TokensBehindLongRunsOfBlanksAreWhole) {
   }
 }
 
+TEST_F(ScannerTest, NumberBehindMegabytesOfBlankLinesIsWhole) {
+  EXPECT_EQ(Carried(Repeat(8U << 20, '\n') + "-5")->ival, -5);
+  EXPECT_EQ(yylineno, (8 << 20) + 1);
+  EXPECT_EQ(outcome.err, "");
+}
+
 // Headers and comments
 
 TEST_F(ScannerTest, VersionHeaderTakesTheRestOfItsLine) {
