@@ -13,7 +13,7 @@ int main(int argc, char** argv) {
   HoldStandardStreams();
   ParseCommandLine(argc, argv);                // arguments to option flags
   std::FILE* output = OpenOutput();            // before any input, so that a bad name fails early
-  TellIfInputIsTerminal();                     // nobody should think that we hang
+  TellIfInputIsTerminal("pandrel");            // nobody should think that we hang
   ProcessGILFile(&top_widget);                 // standard input to top-level widgets
   ProcessProject();                            // and those of a project's interface files
   ProcessActions();                            // connections to callbacks

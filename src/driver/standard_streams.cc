@@ -18,9 +18,10 @@ void HoldStandardStreams() {
   }
 }
 
-void TellIfInputIsTerminal() {
+void TellIfInputIsTerminal(const char* program) {
   if (verbose && isatty(STDIN_FILENO)) {
-    std::fputs("pandrel: reading a GIL file from the terminal; pandrel -help lists the options\n",
-               stderr);
+    std::fprintf(stderr,
+                 "%s: reading a GIL file from the terminal; pandrel -help lists the options\n",
+                 program);
   }
 }

@@ -63,15 +63,23 @@ TEST_F(StandardStreamsDeathTest, ClosedStreamsAreHeldAndCannotBeUsed) {
 
 TEST_F(StandardStreamsTest, TerminalIsTold) {
   TerminalAsInput terminal;
-  const Outcome outcome = Run(TellIfInputIsTerminal);
+  const Outcome outcome = Run([] { TellIfInputIsTerminal("pandrel"); });
   EXPECT_EQ(outcome.out, "");
   EXPECT_EQ(outcome.err, kNotice);
+}
+
+TEST_F(StandardStreamsTest, NoticeNamesTheProgram) {
+  TerminalAsInput terminal;
+  EXPECT_EQ(Run([] { TellIfInputIsTerminal("gildump"); }).err,
+            "gildump: reading a GIL file from the terminal; pandrel -help lists the options\n");
 }
 
 TEST_F(StandardStreamsTest, TerminalIsNotToldWhenQuiet) {
   TerminalAsInput terminal;
   verbose = 0;
-  EXPECT_EQ(Run(TellIfInputIsTerminal).err, "");
+  EXPECT_EQ(Run([] { TellIfInputIsTerminal("pandrel"); }).err, "");
 }
 
-TEST_F(StandardStreamsTest, FileIsNotTold) { EXPECT_EQ(Run(TellIfInputIsTerminal, "()").err, ""); }
+TEST_F(StandardStreamsTest, FileIsNotTold) {
+  EXPECT_EQ(Run([] { TellIfInputIsTerminal("pandrel"); }, "()").err, "");
+}
