@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "convert/objects.h"
 #include "flags/flags.h"
 #include "passes/clean_up.h"
 #include "unit/support/check_widg_tree.h"
@@ -337,6 +338,19 @@ TEST_F(Menus, SecondMenuOfAButtonIsNoPopup) {
   EXPECT_STREQ(Find("two")->class_name, "XmUnknownMenu");
   top_widget = CleanUpTopLevelHierarchy(&top_widget);
   EXPECT_EQ(NameTree(top_widget), "menubar(button(one(onechoice)))");
+}
+
+TEST_F(Menus, ButtonWithAMenuConsumesTheNameOfIt) {
+  Obj* button = MenuButton("button", "menu");
+  Convert({Command("menu"), button});
+  EXPECT_STREQ(GilObjToMotifClassName(button), "XmPushButton");
+}
+
+TEST_F(Menus, OwnerOfAPopupMenuConsumesTheNameOfIt) {
+  Obj* canvas = MenuCanvas("canvas", "menu");
+  Convert({Command("menu"), canvas});
+  Value* menu = nullptr;
+  EXPECT_EQ(GetAttrValue(canvas, MENU, &menu, 0), 0);
 }
 
 TEST_F(Menus, PopupMenuGoesToWhatStandsForTheObject) {
