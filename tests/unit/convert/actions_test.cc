@@ -315,6 +315,34 @@ TEST_F(Actions, MissingTargetIsNotLookedForByOtherTargets) {
   ExpectQuiet(Run([=] { Done(ok, "Disable", "nowhere"); }));
 }
 
+TEST_F(Actions, PredefinedActionMayBeAnIntegerOfTheKeyword) {
+  Widg* ok = Ok();
+  Action* action = Predefined("ok", "Notify", "ok", "Show");
+  action->functionType = intValue(USER_DEFINED);
+  ProcessAction(ok, action);
+  EXPECT_EQ(Callbacks(ok), "XmNactivateCallback ZoSetValuesCB(\"ok.mappedWhenManaged=True\")");
+}
+
+TEST_F(Actions, CallOfNilCallsAProcedureWithoutAName) {
+  Widg* ok = Ok();
+  Action* action = Call("ok", "Notify", "quit");
+  action->actionName = tokenValue(NIL);
+  ExpectQuiet(Run([=] { ProcessAction(ok, action); }));
+  EXPECT_EQ(Callbacks(ok), "XmNactivateCallback ()");
+}
+
+TEST_F(Actions, TextOfATargetIsRenamedForAllWhoShareTheAction) {
+  Widg* ok = Ok();
+  Widg* other = NewWidg("XmPushButton", "other");
+  TopLevel({other, NewWidg("XmLabel", "b1")});
+  Action* action = Predefined("ok", "Notify", "b1", "Enable");
+  ExpectQuiet(Run([=] { ProcessAction(ok, action); }));
+  const Outcome outcome = Run([=] { ProcessAction(other, action); });
+  EXPECT_EQ(outcome.err, "Cannot find widget bB which is target of action\n");
+  EXPECT_EQ(Callbacks(ok), "XmNactivateCallback ZoSetSensitiveCB(\"(WL)[bB]\")");
+  EXPECT_EQ(Callbacks(other), "XmNactivateCallback ZoSetSensitiveCB(\"(WL)[bB]\")");
+}
+
 TEST_F(Actions, TargetIsRenamedThoughTheEventHasNoCallback) {
   Widg* ok = Ok();
   TopLevel({NewWidg("XmLabel", "item1"), NewWidg("XmLabel", "other2")});
@@ -390,6 +418,24 @@ TEST_F(Actions, ActionFromAnItemLandsOnTheChildOfThatLabel) {
 TEST_F(Actions, ActionFromTheObjectItselfStaysThere) {
   Widg* setting = Choices();
   EXPECT_EQ(From(setting, {"window", "hue"}), setting);
+}
+
+TEST_F(Actions, NameOfTheObjectGoesBeforeTheLabelsOfItsItems) {
+  Widg* setting = NewWidg("XmRowColumn", "\"Red\"",
+                          {With(NewWidg("XmToggleButton", "a"), {{"XmNlabelString", "\"Red\""}})});
+  EXPECT_EQ(From(setting, {"\"Red\""}), setting);
+}
+
+TEST_F(Actions, InstanceNameIsNoSource) {
+  Widg* item = With(NewWidg("XmToggleButton", "a"), {{"XmNlabelString", "hue"}});
+  Widg* setting = NewWidg("XmRowColumn", "Hue", {item});
+  ASSERT_STREQ(setting->name, "hue");
+  EXPECT_EQ(From(setting, {"hue"}), item);
+}
+
+TEST_F(Actions, NamesOfItemsAreNoSource) {
+  Widg* setting = Choices();
+  EXPECT_EQ(From(setting, {"b"}), setting);
 }
 
 TEST_F(Actions, ActionFromNowhereStays) {

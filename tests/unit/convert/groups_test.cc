@@ -3,10 +3,13 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <initializer_list>
+#include <string>
 #include <string_view>
 
 #include "flags/flags.h"
+#include "passes/clean_up.h"
 #include "unit/support/check_widg_tree.h"
 #include "unit/support/checked_searches.h"
 #include "unit/support/fatal_end.h"
@@ -84,6 +87,59 @@ TEST_F(Groups, ListMovesWithItsWindowAndTitle) {
   Convert({Window({Object(SCROLLING_LIST, "list1", {Str(TITLE, "Files")})}), Group({"list1"})});
   EXPECT_EQ(ClassTreeOf(Find("group")),
             "XmBulletinBoard(XmForm(XmLabel XmScrolledWindow(XmList)))");
+}
+
+TEST_F(Groups, TitleMovesWithItsFormAndList) {
+  Convert({Window({Object(SCROLLING_LIST, "l", {Str(TITLE, "Files")})}), Group({"l_title"})});
+  EXPECT_EQ(NameTree(top_widget), "window(area(group(l_form(l_title l_sw(l)))))");
+  EXPECT_STREQ(Find("l_form")->class_name, "XmForm");
+}
+
+TEST_F(Groups, TitleMovesWithItsFrameAndList) {
+  motif12 = 1;
+  Convert({Window({Object(SCROLLING_LIST, "l", {Str(TITLE, "Files")})}), Group({"l_title"})});
+  EXPECT_EQ(NameTree(top_widget), "window(area(group(l_frame(l_title l_sw(l)))))");
+  EXPECT_STREQ(Find("l_frame")->class_name, "XmFrame");
+}
+
+TEST_F(Groups, LabelMovesWithoutItsControl) {
+  Convert({Window({Object(TEXT_FIELD, "f", {Str(LABEL, "Name:")})}), Group({"f_label"})});
+  EXPECT_EQ(NameTree(top_widget), "window(area(f_rc(f group(f_label))))");
+}
+
+// What is left at the top level once a control with a popup menu stands in a window and the menu is
+// a member of a group.
+std::string GroupedByPopup(int32_t type, std::initializer_list<Attr*> attrs) {
+  Obj* owner = Object(type, "owner", attrs);
+  Attr** end = &owner->attrs;
+  while (*end) end = &(*end)->next;
+  *end = Id(MENU, "menu");
+  Convert({Object(MENU, "menu", {Strs(MENU_ITEM_LABELS, {"A"}), Tok(MENU_TYPE, COMMAND)}),
+           Window({owner}), Group({"menu"})});
+  zo25 = 0;  // where popup menus stay
+  top_widget = CleanUpTopLevelHierarchy(&top_widget);
+  return NameTree(top_widget);
+}
+
+TEST_F(Groups, PopupMenuOfAListMovesWithItsScrolledWindow) {
+  EXPECT_EQ(GroupedByPopup(SCROLLING_LIST, {}),
+            "window(area(group(owner_sw(owner menu(menuchoice)))))");
+}
+
+TEST_F(Groups, PopupMenuOfATitledListMovesWithItsForm) {
+  EXPECT_EQ(GroupedByPopup(SCROLLING_LIST, {Str(TITLE, "Files")}),
+            "window(area(group(owner_form(owner_title owner_sw(owner) menu(menuchoice)))))");
+}
+
+TEST_F(Groups, PopupMenuOfATitledListMovesWithItsFrame) {
+  motif12 = 1;
+  EXPECT_EQ(GroupedByPopup(SCROLLING_LIST, {Str(TITLE, "Files")}),
+            "window(area(group(owner_frame(owner_title owner_sw(owner) menu(menuchoice)))))");
+}
+
+TEST_F(Groups, PopupMenuOfACanvasMovesWithItsScrollBars) {
+  EXPECT_EQ(GroupedByPopup(CANVAS_PANE, {Tok(HORIZONTAL_SCROLLBAR, T), Tok(VERTICAL_SCROLLBAR, T)}),
+            "window(area(group(owner_sw(owner menu(menuchoice)))))");
 }
 
 TEST_F(Groups, CanvasMovesWithItsScrollBars) {

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <initializer_list>
 #include <string>
 
@@ -115,6 +116,18 @@ TEST_F(ScrollingLists, TitleOfMotif12StandsInAFrame) {
   EXPECT_EQ(Resources(frame->child->next),
             "XmNscrollBarDisplayPolicy=XmSTATIC XmNwidth=30 XmNheight=40 "
             "XmNchildType=XmFRAME_WORKAREA_CHILD");
+}
+
+TEST_F(ScrollingLists, TitleHasNoGilGeometryOfItsOwn) {
+  for (const int32_t frame : {0, 1}) {
+    motif12 = frame;
+    const Widg* title = Processed({Str(TITLE, "Files")})->child;
+    EXPECT_STREQ(title->class_name, "XmLabel");
+    EXPECT_EQ(title->x, 0);
+    EXPECT_EQ(title->y, 0);
+    EXPECT_EQ(title->width, 0);
+    EXPECT_EQ(title->height, 0);
+  }
 }
 
 TEST_F(ScrollingLists, EmptyTitleIsNone) {

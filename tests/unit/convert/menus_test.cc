@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "convert/objects.h"
 #include "flags/flags.h"
 #include "passes/clean_up.h"
 #include "unit/support/check_widg_tree.h"
@@ -138,6 +139,29 @@ TEST_F(Menus, ItemOfASubMenuIsACascadeButton) {
   EXPECT_STREQ(Find("sub")->class_name, "XmPulldownMenu");
 }
 
+TEST_F(Menus, SelectedToggleOfASubMenuIsACascadeButton) {
+  Convert({Command("sub"), Menu("m", EXCLUSIVE, {"A"},
+                                {Toks(INITIAL_SELECTIONS, {T}), Ids(MENU_ITEM_MENUS, {"sub"})})});
+  const Widg* item = Find("m")->child;
+  EXPECT_STREQ(item->class_name, "XmCascadeButton");
+  EXPECT_EQ(item->child, Find("sub"));
+  EXPECT_STREQ(Find("sub")->class_name, "XmPulldownMenu");
+  EXPECT_EQ(Resources(item), "XmNlabelString=\"A\" XmNset=true");
+  EXPECT_STREQ(item->name, "mchoice");
+}
+
+TEST_F(Menus, TitleDefaultsAndHandlersHaveNoEffect) {
+  const Widg* menu = Convert(Menu("m", NONEXCLUSIVE, {"A", "B"},
+                                  {Str(MENU_TITLE, "Choose"), Toks(MENU_ITEM_DEFAULTS, {T, NIL}),
+                                   Ids(MENU_ITEM_HANDLERS, {"first", "second"})}));
+  EXPECT_EQ(ClassTree(menu), "XmUnknownMenu(XmToggleButton XmToggleButton)");
+  EXPECT_EQ(Resources(menu), "");
+  for (const Widg* item = menu->child; item; item = item->next) EXPECT_EQ(item->callbacks, nullptr);
+  EXPECT_EQ(Resources(menu->child), "XmNlabelString=\"A\"");
+  EXPECT_EQ(Resources(menu->child->next), "XmNlabelString=\"B\"");
+  EXPECT_EQ(Procedures(), "");
+}
+
 TEST_F(Menus, SubMenusAreGivenFromTheLastItemOn) {
   // The names stand in file order, the labels in reverse: the first name meets the last label.
   Run([] {
@@ -243,6 +267,90 @@ TEST_F(Menus, MenuAttributeThatIsNoTextIsIgnored) {
   ExpectQuiet(Run([] { Convert(Object(CANVAS_PANE, "canvas", {Tok(MENU, NIL)})); }));
   ExpectQuiet(Run([] { Convert(Object(BUTTON, "button", {Tok(MENU, NIL)})); }));
   EXPECT_STREQ(Find("button")->class_name, "XmPushButton");
+}
+
+// The classes at the top level once an object with a popup menu is converted and menus are gone.
+std::string WithPopup(int32_t type, std::initializer_list<Attr*> attrs) {
+  Obj* obj = Object(type, "owner", attrs);
+  Attr** end = &obj->attrs;
+  while (*end) end = &(*end)->next;
+  *end = Id(MENU, "menu");
+  Convert({Command("menu"), obj});
+  zo25 = 0;  // where popup menus stay
+  top_widget = CleanUpTopLevelHierarchy(&top_widget);
+  EXPECT_EQ(CheckWidgTree(top_widget), "");
+  return ClassTree(top_widget);
+}
+
+TEST_F(Menus, PopupMenuOfAMessage) {
+  EXPECT_EQ(WithPopup(MESSAGE, {}), "XmLabel(XmPopupMenu(XmPushButton))");
+}
+
+TEST_F(Menus, PopupMenuOfASliderIsNotItsLabels) {
+  EXPECT_EQ(WithPopup(SLIDER, {Str(LABEL, "A:")}), "XmScale(XmPopupMenu(XmPushButton)) XmLabel");
+}
+
+TEST_F(Menus, PopupMenuOfAGaugeIsNotItsLabels) {
+  EXPECT_EQ(WithPopup(GAUGE, {Str(LABEL, "A:")}), "XmScale(XmPopupMenu(XmPushButton)) XmLabel");
+}
+
+TEST_F(Menus, PopupMenuOfATextField) {
+  EXPECT_EQ(WithPopup(TEXT_FIELD, {}), "XmTextField(XmPopupMenu(XmPushButton))");
+}
+
+TEST_F(Menus, PopupMenuOfALabelledTextFieldGoesToTheRowColumn) {
+  EXPECT_EQ(WithPopup(TEXT_FIELD, {Str(LABEL, "A:")}),
+            "XmRowColumn(XmLabel XmTextField XmPopupMenu(XmPushButton))");
+}
+
+TEST_F(Menus, PopupMenuOfAStackSettingGoesToTheOptionMenu) {
+  EXPECT_EQ(WithPopup(SETTING, {Tok(SETTING_TYPE, STACK), Strs(CHOICES, {"A"})}),
+            "XmOptionMenu(XmPulldownMenu(XmPushButton) XmPopupMenu(XmPushButton))");
+}
+
+TEST_F(Menus, PopupMenuOfATitledListGoesToTheForm) {
+  EXPECT_EQ(WithPopup(SCROLLING_LIST, {Str(TITLE, "Files")}),
+            "XmForm(XmLabel XmScrolledWindow(XmList) XmPopupMenu(XmPushButton))");
+}
+
+TEST_F(Menus, ObjectsWithoutAWidgetHaveAPopupMenuAllTheSame) {
+  EXPECT_EQ(WithPopup(TERM_PANE, {}), "(XmPopupMenu(XmPushButton))");
+}
+
+TEST_F(Menus, DropTargetHasAPopupMenuToo) {
+  EXPECT_EQ(WithPopup(DROP_TARGET, {}), "(XmPopupMenu(XmPushButton))");
+}
+
+TEST_F(Menus, PopupMenuOfAMenuStandsBehindItsItems) {
+  Convert({Command("menu"), Menu("outer", COMMAND, {"A"}, {Id(MENU, "menu")}),
+           MenuCanvas("canvas", "outer")});
+  zo25 = 0;  // where popup menus stay
+  top_widget = CleanUpTopLevelHierarchy(&top_widget);
+  EXPECT_EQ(NameTree(top_widget), "canvas(outer(outerchoice menu(menuchoice)))");
+  EXPECT_EQ(ClassTree(top_widget),
+            "XmDrawingArea(XmPopupMenu(XmPushButton XmPopupMenu(XmPushButton)))");
+}
+
+TEST_F(Menus, SecondMenuOfAButtonIsNoPopup) {
+  Convert({Command("one"), Command("two"),
+           Object(BUTTON, "button", {Id(MENU, "one"), Id(MENU, "two")})});
+  EXPECT_STREQ(Find("one")->class_name, "XmPulldownMenu");
+  EXPECT_STREQ(Find("two")->class_name, "XmUnknownMenu");
+  top_widget = CleanUpTopLevelHierarchy(&top_widget);
+  EXPECT_EQ(NameTree(top_widget), "menubar(button(one(onechoice)))");
+}
+
+TEST_F(Menus, ButtonWithAMenuConsumesTheNameOfIt) {
+  Obj* button = MenuButton("button", "menu");
+  Convert({Command("menu"), button});
+  EXPECT_STREQ(GilObjToMotifClassName(button), "XmPushButton");
+}
+
+TEST_F(Menus, OwnerOfAPopupMenuConsumesTheNameOfIt) {
+  Obj* canvas = MenuCanvas("canvas", "menu");
+  Convert({Command("menu"), canvas});
+  Value* menu = nullptr;
+  EXPECT_EQ(GetAttrValue(canvas, MENU, &menu, 0), 0);
 }
 
 TEST_F(Menus, PopupMenuGoesToWhatStandsForTheObject) {

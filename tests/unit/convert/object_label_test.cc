@@ -57,6 +57,24 @@ TEST_F(ObjectLabel, LabelKeepsTheSiblingsBehindTheControl) {
   EXPECT_EQ(Names(widg), "a a_label b");
 }
 
+TEST_F(ObjectLabel, ValuePositionOfAnUnplacedControlIsSetDownwardFirst) {
+  Widg* control = NewWidg("XmScale", "control");
+  SpecProcObjLabel(
+      Object(SLIDER, "control", {Int(VALUE_X, 80), Int(VALUE_Y, 25), Str(LABEL, "Volume:")}),
+      control, 0);
+  EXPECT_EQ(Resources(control), "XmNy=25 XmNx=80");
+  EXPECT_EQ(Resources(control->next), "XmNlabelString=\"Volume:\"");
+}
+
+TEST_F(ObjectLabel, LabelHasNoGilGeometryOfItsOwn) {
+  Widg* field = Field();
+  const Widg* label = InRow({Str(LABEL, "Name:")}, field)->child;
+  EXPECT_EQ(label->x, 0);
+  EXPECT_EQ(label->y, 0);
+  EXPECT_EQ(label->width, 0);
+  EXPECT_EQ(label->height, 0);
+}
+
 TEST_F(ObjectLabel, PositionsThatAreNotGivenAreNotSet) {
   Widg* control = Beside(SLIDER, {Str(LABEL, "Volume:")});
   EXPECT_EQ(Resources(control), "XmNx=10 XmNy=20");

@@ -31,7 +31,8 @@ TEST_F(Objects, EveryTypeHasItsClass) {
         ClassOfType{SLIDER, "XmScale"}, ClassOfType{GAUGE, "XmScale"},
         ClassOfType{TEXT_FIELD, "XmTextField"}, ClassOfType{TEXT_PANE, "XmScrolledText"},
         ClassOfType{SCROLLING_LIST, "XmList"}, ClassOfType{GROUP, "XmBulletinBoard"},
-        ClassOfType{TERM_PANE, ""}, ClassOfType{STACK, ""}, ClassOfType{X, ""}}) {
+        ClassOfType{TERM_PANE, ""}, ClassOfType{DROP_TARGET, ""}, ClassOfType{STACK, ""},
+        ClassOfType{X, ""}}) {
     EXPECT_STREQ(GilObjToMotifClassName(Object(row.type, "a")), row.class_name) << row.type;
   }
 }

@@ -74,6 +74,17 @@ TEST_F(Settings, RowsCountWhereColumnsDoNot) {
             "XmNorientation=XmHORIZONTAL XmNnumColumns=3 XmNpacking=XmPACK_COLUMN");
 }
 
+TEST_F(Settings, OneColumnIsACount) {
+  EXPECT_EQ(Resources(Setting({Tok(SETTING_TYPE, CHECK), Tok(LAYOUT_TYPE, HORIZONTAL),
+                               Int(COLUMNS, 1), Strs(CHOICES, {"A"})})),
+            "XmNorientation=XmVERTICAL XmNnumColumns=1 XmNpacking=XmPACK_COLUMN");
+}
+
+TEST_F(Settings, OneRowIsACount) {
+  EXPECT_EQ(Resources(Setting({Tok(SETTING_TYPE, CHECK), Int(ROWS, 1), Strs(CHOICES, {"A"})})),
+            "XmNorientation=XmHORIZONTAL XmNnumColumns=1 XmNpacking=XmPACK_COLUMN");
+}
+
 TEST_F(Settings, ZeroAndNegativeCountsAreNone) {
   EXPECT_EQ(Resources(Setting(
                 {Tok(SETTING_TYPE, CHECK), Int(COLUMNS, -2), Int(ROWS, 0), Strs(CHOICES, {"A"})})),

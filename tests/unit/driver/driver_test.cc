@@ -230,6 +230,35 @@ TEST_F(DriverTest, GroupAloneLeavesNoWidget) {
   EXPECT_EQ(outcome.status, std::nullopt);
 }
 
+// A window with a board with a button.
+static std::string WindowWithButton() {
+  return Window("w") +
+         "(:type :control-area :name ca :owner w)\n"
+         "(:type :button :name b :owner ca)\n";
+}
+
+static std::string GroupOf(const std::string& members) {
+  return "(:type :group :name g :group-type :row :members (" + members + "))\n";
+}
+
+TEST_F(DriverTest, GroupInTheMiddleThatIsDroppedLeavesNoGap) {
+  Convert(File(WindowWithButton() + GroupOf("x") + Window("b2") + GroupOf("") + Window("c")));
+  EXPECT_EQ(Names(top_widget), "w b2 c");
+}
+
+TEST_F(DriverTest, WindowThatAGroupTookAwayLeavesTheListToTheNext) {
+  Convert(File(WindowWithButton() + GroupOf("b w") + Window("c") + Window("d")));
+  EXPECT_EQ(Names(top_widget), "c d");
+}
+
+TEST_F(DriverTest, WindowsBehindTheOneThatAGroupTookAwayFollowIt) {
+  Convert(File(WindowWithButton() + Window("x") + GroupOf("b x") + Window("c")));
+  EXPECT_EQ(Names(top_widget), "w");
+  const Widg* group = top_widget->child->child;
+  EXPECT_STREQ(group->gil_name, "g");
+  EXPECT_EQ(Names(group->child), "b x c");
+}
+
 TEST_F(DriverTest, FirstWidgetIsStoredAndReturned) {
   SetInput(File(Window("a") + Window("b")));
   Widg* first = ProcessGILFile(&top_widget);
@@ -349,6 +378,26 @@ TEST_F(DriverTest, LastProjectOfAListIsTheOneThatFollows) {
   }
   Convert("(:interfaces (b.P c.P))");
   EXPECT_EQ(Names(top_widget), "c");
+}
+
+TEST_F(DriverTest, StringValueOfALaterFileRepeatsTheLastValueBeforeIt) {
+  dir.Write("a.G", "((:type :button :name a :label \"First\"))");
+  dir.Write("b.G", "((:type :button :label :string-value :name b))");
+  Convert("(:interfaces (a.G b.G))");
+  ASSERT_EQ(Names(top_widget), "a b");
+  EXPECT_STREQ(GetResourceValue(top_widget->next, "XmNlabelString"), "\"First\"");
+}
+
+TEST_F(DriverTest, OwnersOfFormerObjectsAreResolvedAnew) {
+  dir.Write("a.G",
+            "((:type :base-window :name p1 :name p2)"
+            " (:type :control-area :name q1 :name q2 :owner p1))");
+  dir.Write("b.P", "(:interfaces ())");
+  const Outcome outcome = Convert("(:interfaces (a.G b.P))");
+  EXPECT_EQ(outcome.err, "Cannot find owner p1, ignoring...\n");
+  EXPECT_EQ(outcome.status, std::nullopt);
+  EXPECT_EQ(Names(top_widget), "p2 q2 p1");
+  EXPECT_EQ(Names(top_widget->next->next->child), "q1");
 }
 
 // The objects read before the project are converted once more, and their names are used up.

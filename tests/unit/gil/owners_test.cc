@@ -110,3 +110,31 @@ TEST_F(OwnersTest, FlatListKeepsTheParsersOrder) {
   for (const Obj* obj = gilFile; obj; obj = obj->allNext) names += obj->name;
   EXPECT_EQ(names, "cba");
 }
+
+// Once more over what the last pass left at the top level.
+TEST_F(OwnersTest, SecondPassGoesByTheNamesThatAreLeft) {
+  EXPECT_EQ(Forest({":name p1 :name p2", ":name q :owner p1"}), "p2 q");
+  EXPECT_EQ(err, "Cannot find owner p1, ignoring...\n");
+  Value* name = nullptr;
+  ASSERT_EQ(GetAttrValue(top, 361, &name, 1), 1);
+  EXPECT_EQ(Run([] { top = resolveChildren(top); }).err, "");
+  EXPECT_EQ(List(top), "p1(q)");
+}
+
+TEST_F(OwnersTest, ConsumedNameIsNoName) {
+  Forest({":name p", ":name q :owner P"});
+  Value* name = nullptr;
+  ASSERT_EQ(GetAttrValue(top, 361, &name, 1), 1);
+  name->sval[0] = 'P';
+  const Outcome outcome = Run([] { top = resolveChildren(top); });
+  EXPECT_EQ(outcome.err, "Cannot find owner P, ignoring...\n");
+  // The list was in file order this time, and so is reversed.
+  EXPECT_EQ(List(top), "q ?");
+}
+
+TEST_F(OwnersTest, ChangedNameIsTakenAsItStands) {
+  Forest({":name p", ":name q :owner P"});
+  top->name[0] = 'P';
+  EXPECT_EQ(Run([] { top = resolveChildren(top); }).err, "");
+  EXPECT_EQ(List(top), "P(q)");
+}

@@ -82,6 +82,12 @@ TEST_F(ScannerTest, TokensBehindLongRunsOfBlanksAreWhole) {
   }
 }
 
+TEST_F(ScannerTest, NumberBehindMegabytesOfBlankLinesIsWhole) {
+  EXPECT_EQ(Carried(Repeat(8U << 20, '\n') + "-5")->ival, -5);
+  EXPECT_EQ(yylineno, (8 << 20) + 1);
+  EXPECT_EQ(outcome.err, "");
+}
+
 // Headers and comments
 
 TEST_F(ScannerTest, VersionHeaderTakesTheRestOfItsLine) {
@@ -225,6 +231,22 @@ TEST_F(ScannerTest, IntegerCarriesItsNumber) {
   }
 }
 
+TEST_F(ScannerTest, IntegersBeyondTheirRangeKeepTheLow32BitsOfTheNumberRead) {
+  for (const auto& [text, number] : {IntegerCase{"2147483648", INT32_MIN},
+                                     {"4294967295", -1},
+                                     {"4294967296", 0},
+                                     {"4294967301", 5},
+                                     {"-2147483649", INT32_MAX},
+                                     {"-4294967301", -5},
+                                     {"9223372036854775807", -1},
+                                     // A number read stops at 64 bits.
+                                     {"12345678901234567890", -1},
+                                     {"99999999999999999999", -1},
+                                     {"-99999999999999999999", 0}}) {
+    EXPECT_EQ(Carried(text)->ival, number) << text;
+  }
+}
+
 TEST_F(ScannerTest, IntegerEndsBeforeWhatIsNoDigit) {
   EXPECT_EQ(Scan("5a 0x10 7-8"), (Tokens{{INTEGER_VALUE, "5"},
                                          {IDENTIFIER, "a"},
@@ -242,6 +264,31 @@ TEST_F(ScannerTest, PlusSignIsIllegal) {
 TEST_F(ScannerTest, DashesWithoutADigitAreIllegal) {
   EXPECT_EQ(Scan("-- 5 -"), (Tokens{{INTEGER_VALUE, "5"}}));
   EXPECT_EQ(outcome.err, "Illegal character: -\nIllegal character: -\nIllegal character: -\n");
+}
+
+TEST_F(ScannerTest, RunOfDashesIsNoTokenHoweverLong) {
+  for (const std::size_t count : {10000U, 10001U, 10002U, 32768U, 100000U}) {
+    EXPECT_EQ(Scan("(" + Repeat(count, '-') + ")"), (Tokens{{LPAREN, "("}, {RPAREN, ")"}}));
+    EXPECT_EQ(outcome.status, std::nullopt);
+    EXPECT_EQ(outcome.out, "");
+    std::string reports;
+    for (std::size_t i = 0; i < count; ++i) reports += "Illegal character: -\n";
+    EXPECT_TRUE(outcome.err == reports) << count;
+  }
+}
+
+TEST_F(ScannerTest, RunOfDashesAtTheEndOfTheInputIsNoToken) {
+  EXPECT_EQ(Scan(Repeat(10001, '-')), Tokens());
+  EXPECT_EQ(outcome.status, std::nullopt);
+  EXPECT_EQ(outcome.err.size(), 10001 * std::string("Illegal character: -\n").size());
+}
+
+TEST_F(ScannerTest, DigitMakesARunOfDashesATokenWithALimit) {
+  EXPECT_EQ(Carried(Repeat(9999, '-') + "5")->ival, 0);
+  EXPECT_EQ(outcome.err, "");
+  ExpectTooLong(Repeat(10000, '-') + "5");
+  ExpectTooLong(Repeat(10001, '-') + "5");
+  ExpectTooLong(Repeat(100000, '-') + "5");
 }
 
 // Strings

@@ -3,13 +3,16 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <string>
 
 #include "flags/flags.h"
 #include "osi/arena.h"
+#include "unit/osi/children.h"
 #include "unit/osi/surroundings.h"
 #include "unit/support/fatal_end.h"
 #include "unit/support/session_fixture.h"
@@ -87,6 +90,10 @@ TEST_F(Glyphs, BitmapsAreKnownByTheirFirstLine) {
   dir_.Write("no", "/* Format_version=1 */\n#define face_width 16\n");
   dir_.Write("short.xbm", "#def\n");
   dir_.Write("empty", "");
+  dir_.Write("almost", "#defin\n");
+  dir_.Write("other", "#definx face_width 16\n");
+  EXPECT_FALSE(IsXbmFile("almost"));
+  EXPECT_FALSE(IsXbmFile("other"));
   EXPECT_TRUE(IsXbmFile("yes"));
   EXPECT_FALSE(IsXbmFile("no"));
   EXPECT_FALSE(IsXbmFile("short.xbm"));
@@ -217,6 +224,63 @@ TEST_F(Glyphs, GlyphOutsideTheIconFolderIsConvertedHere) {
   Run([&] { value = ValueFor("face.icon"); });
   EXPECT_EQ(value, "xbitmapfile(\"face.xbm\")");
   EXPECT_TRUE(Exists("face.xbm"));
+}
+
+TEST_F(Glyphs, EmptyNameIsTheIconFolderItself) {
+  icon_dir_name = "icons/";
+  dir_.Mkdir("icons");
+  std::string value;
+  const Outcome outcome = Run([&] { value = ValueFor(""); });
+  EXPECT_EQ(value, "xbitmapfile(\"icons/.xbm\")");
+  EXPECT_EQ(ReadWhole("log"), "icontopbm <icons/>\n");
+  EXPECT_EQ(outcome.out, kConverting);
+}
+
+TEST_F(Glyphs, EmptyNameWithoutAnIconFolderIsMissing) {
+  std::string value;
+  const Outcome outcome = Run([&] { value = ValueFor(""); });
+  EXPECT_EQ(value, "xbitmapfile(\".xbm\")");
+  EXPECT_EQ(outcome.out.rfind("Cannot access glyph filename \n", 0), 0u) << outcome.out;
+  EXPECT_FALSE(Exists("log"));
+}
+
+// What is told and returned of a glyph to a user who may not read it.
+std::string ToldToAnotherUser(const std::string& glyph) {
+  const pid_t child = fork();
+  if (child == 0) {
+    // Only the superuser can become somebody else, and only he reads what he may not.
+    constexpr uid_t kNobody = 65534;
+    if (getuid() == 0 && setuid(kNobody) != 0) _exit(1);
+    std::printf("%s", ProcessGlyphFilename(Writable(glyph)));
+    std::fflush(stdout);
+    _exit(0);
+  }
+  return ExitStatusOf(child) == 0 ? "" : "the child failed";
+}
+
+TEST_F(Glyphs, GlyphThatMayNotBeReadIsMissing) {
+  dir_.Write("face.icon", "#define face_width 16\n", 0000);
+  std::filesystem::permissions(dir_.Path(), std::filesystem::perms::all);
+  std::filesystem::permissions(bin_.Path(), std::filesystem::perms::all);
+  const Outcome outcome = Run([] { EXPECT_EQ(ToldToAnotherUser("\"face.icon\""), ""); });
+  EXPECT_EQ(outcome.out,
+            "Cannot access glyph filename face.icon\n"
+            "Convert to XBM with the commands:\n"
+            "    icontopbm face.icon | pbmtoxbm > face.xbm\n"
+            "    sed -e 's/noname/face/' face.xbm > face.xbm.tmp;mv face.xbm.tmp face.xbm\n\n"
+            "xbitmapfile(\"face.xbm\")");
+  EXPECT_EQ(outcome.err, "");
+  EXPECT_FALSE(Exists("log"));
+}
+
+TEST_F(Glyphs, GlyphOfTheIconFolderThatMayNotBeReadIsLookedForHere) {
+  icon_dir_name = "icons/";
+  verbose = 0;
+  dir_.Mkdir("icons");
+  dir_.Write("icons/face.icon", "icon", 0000);
+  std::filesystem::permissions(dir_.Path(), std::filesystem::perms::all);
+  const Outcome outcome = Run([] { EXPECT_EQ(ToldToAnotherUser("\"face.icon\""), ""); });
+  EXPECT_EQ(outcome.out, "xbitmapfile(\"face.xbm\")");
 }
 
 TEST_F(Glyphs, HostileNamesAreConvertedAsTheyStand) {

@@ -48,6 +48,14 @@ TEST_F(LayoutGeometry, WithoutAHeightTheGilSizeAndTheAllowanceCount) {
   EXPECT_EQ(ApproxBottomPos(widg), 21);
 }
 
+TEST_F(LayoutGeometry, NegativeHeightIsAHeight) {
+  Widg* widg = FromGil(At(NewWidg("XmLabel", "a"), 100, 50, 70, -5), 0, 0, 30, 9);
+  widg->extra_width = 3;
+  widg->extra_height = 4;
+  EXPECT_EQ(ApproxRightSidePos(widg), 95);
+  EXPECT_EQ(ApproxBottomPos(widg), 45);
+}
+
 TEST_F(LayoutGeometry, SumsWrapTo32Bits) {
   const Widg* widg = At(NewWidg("XmLabel", "a"), kMax, kMax, 1, 1);
   EXPECT_EQ(RightSidePos(widg), kMin);

@@ -58,6 +58,13 @@ TEST_F(LayoutOverlap, RowsThatTouchOrAreTheSameDoNotOverlap) {
   EXPECT_FALSE(VerticalOverlap(Rows(0, 20), Rows(30, 40)));
 }
 
+TEST_F(LayoutOverlap, RowsWithOneCommonEdgeOverlapWhenTheSecondIsTheShorter) {
+  EXPECT_TRUE(VerticalOverlap(Rows(0, 20), Rows(0, 10)));
+  EXPECT_FALSE(VerticalOverlap(Rows(0, 10), Rows(0, 20)));
+  EXPECT_TRUE(VerticalOverlap(Rows(0, 20), Rows(10, 20)));
+  EXPECT_FALSE(VerticalOverlap(Rows(10, 20), Rows(0, 20)));
+}
+
 TEST_F(LayoutOverlap, ColumnsOfOneAnotherAreAligned) {
   EXPECT_TRUE(AlignedVertically(Columns(20, 80), Columns(0, 100)));
   EXPECT_TRUE(AlignedVertically(Columns(0, 100), Columns(20, 80)));
@@ -74,6 +81,16 @@ TEST_F(LayoutOverlap, ColumnsWithCloseEdgesAreAligned) {
   EXPECT_TRUE(AlignedVertically(Columns(100, 109), Columns(0, 100)));
 }
 
+TEST_F(LayoutOverlap, ColumnsOfNegativeWidthAreAlignedInsideTheSecondOnly) {
+  EXPECT_TRUE(AlignedVertically(Columns(50, 20), Columns(0, 100)));
+  EXPECT_FALSE(AlignedVertically(Columns(50, -30), Columns(0, 100)));
+  EXPECT_FALSE(AlignedVertically(Columns(100, 20), Columns(50, 60)));
+}
+
+TEST_F(LayoutOverlap, RightEdgeOfTheSecondDoesNotCountWhenItsLeftIsInside) {
+  EXPECT_TRUE(AlignedVertically(Columns(50, 150), Columns(100, 0)));
+}
+
 TEST_F(LayoutOverlap, ColumnsFarApartAreNotAligned) {
   EXPECT_FALSE(AlignedVertically(Columns(0, 50), Columns(100, 200)));
 }
@@ -81,6 +98,23 @@ TEST_F(LayoutOverlap, ColumnsFarApartAreNotAligned) {
 TEST_F(LayoutOverlap, MostlyIsMoreThanSevenTenthsOfTheWidth) {
   EXPECT_TRUE(MostlyHorizontalOverlap(Columns(71, 200), Columns(0, 100)));
   EXPECT_FALSE(MostlyHorizontalOverlap(Columns(69, 200), Columns(0, 100)));
+}
+
+TEST_F(LayoutOverlap, MostlyIsMoreThanSevenTenthsToTheLastPixel) {
+  EXPECT_FALSE(MostlyHorizontalOverlap(Columns(70, 200), Columns(0, 100)));
+  EXPECT_FALSE(MostlyHorizontalOverlap(Columns(12, 200), Columns(5, 15)));
+  EXPECT_TRUE(MostlyHorizontalOverlap(Columns(13, 200), Columns(5, 15)));
+  // In double precision 0.7 times 90 falls short of 63.
+  EXPECT_TRUE(MostlyHorizontalOverlap(Columns(63, 200), Columns(0, 90)));
+}
+
+TEST_F(LayoutOverlap, MostlyGoesByTheSetWidthOfTheSecond) {
+  EXPECT_FALSE(MostlyHorizontalOverlap(Columns(60, 70), Columns(0, 100)));
+  EXPECT_FALSE(MostlyHorizontalOverlap(Columns(60, 300), Columns(0, 100)));
+  Widg* narrow = With(Columns(0, 100), {{"XmNwidth", "50"}});
+  EXPECT_TRUE(MostlyHorizontalOverlap(Columns(40, 200), narrow));
+  Widg* wide = With(Columns(0, 100), {{"XmNwidth", "200"}});
+  EXPECT_FALSE(MostlyHorizontalOverlap(Columns(90, 200), wide));
 }
 
 TEST_F(LayoutOverlap, MostlyNeedsALeftEdgeInside) {
@@ -129,6 +163,23 @@ TEST_F(LayoutOverlap, OverlappingChildrenAreStacked) {
   EXPECT_EQ(TopPos(b), 20);
   EXPECT_EQ(TopPos(c), 40);
   EXPECT_EQ(Resources(board), "");
+}
+
+TEST_F(LayoutOverlap, ChildrenAreStackedInOrderOfTheirGilTops) {
+  Widg* lower = FromGil(Rows(10, 30), 5, 90, 7, 8);
+  Widg* upper = FromGil(Rows(0, 20), 6, 70, 70, 80);
+  AvoidVerticalOverlap(NewWidg("XmBulletinBoard", "board", {lower, upper}));
+  EXPECT_EQ(TopPos(upper), 0);
+  EXPECT_EQ(TopPos(lower), 20);
+}
+
+TEST_F(LayoutOverlap, ChildrenThatAreNoNeighboursAreStacked) {
+  Widg* a = FromGil(At(NewWidg("XmLabel", "a"), 0, 0, 20, 40), 0, 10, 0, 0);
+  Widg* aside = FromGil(At(NewWidg("XmLabel", "b"), 500, 5, 20, 20), 0, 20, 0, 0);
+  Widg* c = FromGil(At(NewWidg("XmLabel", "c"), 0, 30, 20, 20), 0, 30, 0, 0);
+  AvoidVerticalOverlap(NewWidg("XmBulletinBoard", "board", {a, aside, c}));
+  EXPECT_EQ(TopPos(aside), 5);
+  EXPECT_EQ(TopPos(c), 40);
 }
 
 TEST_F(LayoutOverlap, ChildrenFarApartSidewaysStay) {

@@ -197,6 +197,38 @@ TEST_F(LayoutTiling, CommonTopAndBottomEdgesAreRestored) {
   EXPECT_EQ(Resources(b), "XmNx=50 XmNy=12 XmNwidth=9 XmNheight=40");
 }
 
+TEST_F(LayoutTiling, RightEdgesAreSortedBeforeTops) {
+  // Sorted by right edges (80, 90, 100) the array loses `a`, whose top so stays apart from that of
+  // `b`.
+  Widg* a = FromGil(At(Board("a"), 0, 12, 100, 5), 0, 10, 100, 5);
+  Widg* b = FromGil(At(Board("b"), 10, 14, 80, 6), 10, 10, 80, 6);
+  Widg* c = FromGil(At(Board("c"), 20, 50, 60, 7), 20, 50, 60, 7);
+  TileBBoardChildren(NewWidg("XmBulletinBoard", "board", {a, b, c}));
+  EXPECT_EQ(TopPos(a), 12);
+  EXPECT_EQ(TopPos(b), 14);
+}
+
+TEST_F(LayoutTiling, TopsAreSortedBeforeBottoms) {
+  // Sorted by tops (30, 40, 50) the array loses `a`, whose bottom so stays apart from that of `b`.
+  Widg* a = FromGil(At(Board("a"), 0, 50, 100, 50), 0, 50, 100, 50);
+  Widg* b = FromGil(At(Board("b"), 10, 40, 100, 90), 10, 40, 100, 60);
+  Widg* c = FromGil(At(Board("c"), 20, 30, 100, 170), 20, 30, 100, 170);
+  TileBBoardChildren(NewWidg("XmBulletinBoard", "board", {a, b, c}));
+  EXPECT_EQ(BottomPos(a), 100);
+  EXPECT_EQ(BottomPos(b), 130);
+}
+
+TEST_F(LayoutTiling, LeftEdgesAreSortedBeforeRightEdges) {
+  // Sorted by left edges (10, 20, 30) the array loses `a`, whose right edge so stays apart from
+  // that of `b`.
+  Widg* a = FromGil(At(Board("a"), 30, 0, 70, 5), 30, 0, 70, 5);
+  Widg* b = FromGil(At(Board("b"), 20, 10, 90, 6), 20, 10, 80, 6);
+  Widg* c = FromGil(At(Board("c"), 10, 20, 200, 7), 10, 20, 200, 7);
+  TileBBoardChildren(NewWidg("XmBulletinBoard", "board", {a, b, c}));
+  EXPECT_EQ(RightSidePos(a), 100);
+  EXPECT_EQ(RightSidePos(b), 110);
+}
+
 TEST_F(LayoutTiling, BoardWithAnotherKindOfChildIsLeftAlone) {
   Widg* a = FromGil(With(Board("a"), {{"XmNx", "10"}}), 5, 0, 1, 1);
   Widg* b = FromGil(With(Board("b"), {{"XmNx", "14"}}), 5, 50, 2, 2);
@@ -226,6 +258,16 @@ TEST_F(LayoutTiling, BoardsOfTheWholeTreeAreTiled) {
       Siblings({NewWidg("TopLevelShell", "shell", {NewWidg("XmForm", "f", {deep})}), beside}));
   EXPECT_EQ(LeftSidePos(deep->child), 14);
   EXPECT_EQ(LeftSidePos(beside->child), 14);
+}
+
+TEST_F(LayoutTiling, OnlyBoardsAreTiled) {
+  Widg* board = SplitBoard();
+  Widg* boards = board->child;
+  Widg* form = NewWidg("XmForm", "form");
+  SetChildren(form, boards);
+  FinalRepositionInterface(form);
+  EXPECT_EQ(LeftSidePos(boards), 10);
+  EXPECT_EQ(LeftSidePos(boards->next), 14);
 }
 
 TEST_F(LayoutTiling, SiblingsBehindAChildlessWidgetAreNotVisited) {

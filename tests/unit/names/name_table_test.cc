@@ -196,6 +196,16 @@ TEST_F(NameTableTest, DeletedNameIsFoundByBothForms) {
   EXPECT_EQ(Create("a"), "a5");
 }
 
+TEST_F(NameTableTest, DeletedNumberedNameIsRevivedByTheNextRequest) {
+  EXPECT_EQ(NameCreate(&table, "item7"), 0);
+  EXPECT_EQ(NameCreate(&table, "item7"), 1);  // item1
+  EXPECT_EQ(NameCreate(&table, "item7"), 2);  // item2
+  NameDelete(&table, "item1");
+  EXPECT_EQ(NameCreate(&table, "item7"), 1);
+  EXPECT_EQ(NameInUse(&table, 1), 1);
+  EXPECT_EQ(Create("item7"), "item3");
+}
+
 // The instance names
 
 static const char kReserved[] =

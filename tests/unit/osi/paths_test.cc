@@ -104,6 +104,11 @@ TEST_F(OsiFileFindExeInPathTest, SkipsEmptyFields) {
   EXPECT_EQ(Find("tool", "::" + b_ + ":"), b_ + "/tool");
 }
 
+TEST_F(OsiFileFindExeInPathTest, EmptyFieldsAreNotTheRoot) {
+  ASSERT_EQ(Find("bin/sh", "/"), "/bin/sh");
+  for (const char* path : {"", ":", "::"}) EXPECT_EQ(Find("bin/sh", path), "(none)") << path;
+}
+
 TEST_F(OsiFileFindExeInPathTest, PassesOverDirectoriesThatAreNotThere) {
   dir_.Write("b/tool", "", 0755);
   EXPECT_EQ(Find("tool", dir_.Path("gone") + ":" + b_), b_ + "/tool");

@@ -2,6 +2,7 @@
 #include "osi/strings.h"
 
 #include <gtest/gtest.h>
+#include <malloc.h>
 
 #include <cstdlib>
 #include <string>
@@ -176,6 +177,16 @@ TEST(OsiStrReplace, GrowsAsNeeded) {
   const std::string long_text(5000, 'x');
   EXPECT_EQ(Take(OsiStrReplace(OsiStrdup("a"), long_text.c_str())), long_text);
   EXPECT_EQ(Take(OsiStrReplace(nullptr, "abc")), "abc");
+}
+
+TEST(OsiStrReplace, GrowsByOneByte) {
+  // One byte less than a block of the allocator's has room for, so that one more needs another.
+  char* s = OsiStrdup(std::string(23, 'a').c_str());
+  const std::string former(malloc_usable_size(s) - 1, 'a');
+  OsiFree(s);
+  s = OsiStrReplace(OsiStrdup(former.c_str()), (former + "b").c_str());
+  EXPECT_GT(malloc_usable_size(s), former.size() + 1);
+  EXPECT_EQ(Take(s), former + "b");
 }
 
 TEST(OsiStrReplace, MakesTheStringEmptyForNull) {

@@ -308,6 +308,23 @@ TEST_F(WriterTest, CallbacksOfAShellAreMarkedToTheEnd) {
       << module;
 }
 
+TEST_F(WriterTest, OnlyCallbackOfAShellIsMarkedToTheEnd) {
+  Widg* window = New("TopLevelShell", "window");
+  Call(window, "XmNdestroyCallback", ok, "1");
+  for (const bool builder : {false, true}) {
+    usezo = builder;
+    window->generated = 0;
+    const std::string mark = builder ? "!(ZO)" : "!";
+    std::string wanted;
+    for (const char* line :
+         {"\tcallbacks {\n", "\t\tXmNdestroyCallback = procedure ok(1);\n", "\t\t};\n", "};\n"}) {
+      wanted += mark + line;
+    }
+    const std::string module = Write(window);
+    EXPECT_NE(module.find(wanted + "\n\nend module;"), std::string::npos) << module;
+  }
+}
+
 // Arguments and callbacks
 
 TEST_F(WriterTest, NoteOfTheGlyphFileIsNeverWritten) {

@@ -94,6 +94,25 @@ TEST_F(WidgWalk, MorePathsThanAnybodyCanWalkEnd) {
   EXPECT_LT(handled, 2 * kMaxRepeats);
 }
 
+TEST_F(WidgWalk, LongMenuOfManyButtonsIsWalkedForEach) {
+  Widg* items = nullptr;
+  for (int i = 0; i < 200; ++i) {
+    Widg* item = Leaf("i");
+    item->next = items;
+    items = item;
+  }
+  Widg* buttons = nullptr;
+  for (int i = 0; i < 1000; ++i) {
+    Widg* button = Leaf("b");
+    button->next = buttons;
+    buttons = button;
+    SetChildren(button, items);
+  }
+  std::size_t handled = 0;
+  WalkWidgets(buttons, kChildrenFirst, Always, [&](const Widg*) { ++handled; });
+  EXPECT_EQ(handled, 1000U * 201U);
+}
+
 TEST_F(WidgWalk, FuzzersMayHaveFewerRepeats) {
   LimitRepeats(10);
   std::size_t handled = 0;
