@@ -2,6 +2,7 @@
 // Texts in UTF-8. The compiler refuses the bytes 0x80 to 0x9F, and Motif's default fonts draw one
 // character per byte, so even a text that compiles shows as two letters for one. Latin-1 is what
 // both take.
+#include <algorithm>
 #include <cstdint>
 #include <optional>
 
@@ -28,7 +29,7 @@ constexpr Substitute kSubstitutes[] = {
 };
 
 // Takes one UTF-8 character of two to four bytes off `text`; nothing when there is none.
-std::optional<std::uint32_t> TakeCharacter(std::string_view& text) {
+std::optional<std::uint32_t> TakeCodePoint(std::string_view& text) {
   const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
   const std::size_t length = byte(0) >= 0xF0 ? 4 : byte(0) >= 0xE0 ? 3 : byte(0) >= 0xC2 ? 2 : 0;
   if (length == 0 || byte(0) > 0xF4 || text.size() < length) return std::nullopt;
@@ -58,7 +59,7 @@ std::string ToLatin(std::string_view inside) {
       rest.remove_prefix(1);
       continue;
     }
-    const auto code = TakeCharacter(rest);
+    const auto code = TakeCodePoint(rest);
     if (!code) return std::string(inside);
     latin += LatinText(*code);
   }
@@ -69,8 +70,10 @@ std::string ToLatin(std::string_view inside) {
 
 void FixEncoding(Module& module, Report& report) {
   ForEachValue(module, [&](const ValuePlace& place) {
-    if (ChangeLiterals(place.value, ToLatin)) {
-      report.Add(place.line, place.what + ": UTF-8 written as Latin-1");
+    const bool ascii = std::none_of(place.value.begin(), place.value.end(),
+                                    [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
+    if (!ascii && ChangeLiterals(place.value, ToLatin)) {
+      report.Add(place.line, place.What() + ": UTF-8 written as Latin-1");
     }
   });
 }
