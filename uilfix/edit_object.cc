@@ -13,11 +13,21 @@ bool IsBlank(const std::string& text) {
   return text.find_first_not_of(" \t\n\r") == std::string::npos;
 }
 
+Mark MarkOf(const Entry& entry) {
+  const auto* verbatim = std::get_if<Verbatim>(&entry);
+  return verbatim ? verbatim->mark : Mark::kNone;
+}
+
 Place FindMark(Place begin, Place end, Mark mark) {
-  return std::find_if(begin, end, [&](const Entry& entry) {
-    const auto* verbatim = std::get_if<Verbatim>(&entry);
-    return verbatim && verbatim->mark == mark;
+  return std::find_if(begin, end, [&](const Entry& entry) { return MarkOf(entry) == mark; });
+}
+
+// Where the section ends whose head is at `head`; `end` when another begins before.
+Place SectionEnd(Place head, Place end) {
+  const Place next = std::find_if(head + 1, end, [](const Entry& entry) {
+    return MarkOf(entry) != Mark::kNone;
   });
+  return next != end && MarkOf(*next) == Mark::kEnd ? next : end;
 }
 
 // An argument laid out as its neighbour is.
@@ -55,7 +65,7 @@ bool AddArgument(Object& object, const std::string& resource, const std::string&
                                      Verbatim{"\t\t};\n", Mark::kEnd, object.line}});
     begin = entries.begin();
   }
-  const Place end = FindMark(begin, entries.end(), Mark::kEnd);
+  const Place end = SectionEnd(begin, entries.end());
   if (end == entries.end()) return false;
   Argument argument = Beside(object, *std::prev(end));
   argument.resource = resource;

@@ -53,7 +53,7 @@ void LineBreaker::MakeRoom(std::size_t size) {
   if (column_ + size > kMaxLine && column_ > lead_.size()) NewLine();
 }
 
-void LineBreaker::AppendFree(std::string_view text) {
+void LineBreaker::AppendFree(std::string_view text, bool words) {
   for (std::size_t pos = 0; pos < text.size();) {
     std::size_t end = pos + 1;
     if (IsBlank(text[pos])) {
@@ -70,7 +70,7 @@ void LineBreaker::AppendFree(std::string_view text) {
       AppendLiteral(text.substr(pos, end - pos), text.substr(end, 1) == "\n" ? 0 : 1, false);
     } else {
       end = TokenEnd(text, pos);
-      MakeRoom(end - pos);
+      if (words) MakeRoom(end - pos);
       Append(text.substr(pos, end - pos));
     }
     pos = end;
@@ -125,8 +125,10 @@ void LineBreaker::AppendValue(std::string_view value, std::string_view tail) {
   }
 }
 
-// `after` bytes must fit behind the literal.
+// `after` bytes should fit behind the literal. Where not even a line of their own takes them, no
+// break of the literal helps.
 void LineBreaker::AppendLiteral(std::string_view literal, std::size_t after, bool at_start) {
+  if (lead_.size() + after + 2 > kMaxLine) after = 0;
   const auto fits = [&] { return column_ + literal.size() + after <= kMaxLine; };
   if (fits()) return Append(literal);
   const bool no_room = column_ + 10 > kMaxLine;

@@ -21,8 +21,10 @@ class LineBreaker {
   // Text as it is.
   void Append(std::string_view text);
 
-  // Text between values: words, punctuation, strings, comments.
-  void AppendFree(std::string_view text);
+  // Text between values: words, punctuation, strings, comments. Without `words` it breaks in strings
+  // and comments only: where nobody knows what the words mean, a line's first could come to mean
+  // something else.
+  void AppendFree(std::string_view text, bool words = true);
 
   // A value; `tail` follows it on its last line. A string at its start is broken where it stands,
   // one further back goes to a line of its own first.

@@ -49,7 +49,7 @@ int Fix(const uilfix::Options& options) {
   }
   uilfix::Report report;
   const std::string fixed =
-      uilfix::MendText(*text, options.selection, report, std::move(starts));
+      uilfix::MendText(*text, options.selection, report, starts);
   if (!options.quiet) {
     std::string lines;
     for (const uilfix::Change& change : report.Changes()) {

@@ -42,6 +42,12 @@ Mark MarkOfLine(std::string_view line) {
   return Mark::kNone;
 }
 
+// Whether the compiler reads nothing in a line: it is blank or a comment.
+bool IsSilent(std::string_view line) {
+  const std::size_t begin = line.find_first_not_of(" \t\n\r");
+  return begin == kNone || line[begin] == '!' || line.substr(begin, 2) == "/*";
+}
+
 class Parser {
  public:
   explicit Parser(std::string_view text) : cursor_(text), text_(text) {}
@@ -59,9 +65,12 @@ class Parser {
         if (auto* head = std::get_if<Object>(&*item)) TakeEntries(*head);
         module.items.emplace_back(std::move(*item));
       } else {
-        module.items.emplace_back(TakeFreeLine(cursor_));
+        Verbatim line = TakeFreeLine(cursor_);
+        damaged_ |= definitions_ != Definitions::kOther && !IsSilent(line.text);
+        module.items.emplace_back(std::move(line));
       }
     }
+    module.damaged = damaged_;
     return module;
   }
 
@@ -219,7 +228,10 @@ class Parser {
   }
 
   Verbatim TakeOddLine(const Object& object) {
-    if (!object.IsComment()) return TakeFreeLine(cursor_);
+    if (!object.IsComment()) {
+      damaged_ |= !IsSilent(text_.substr(Pos(), cursor_.EndOfLine(Pos()) - Pos()));
+      return TakeFreeLine(cursor_);
+    }
     Verbatim line{"", Mark::kNone, cursor_.Line()};
     line.text = cursor_.TakeTo(cursor_.EndOfLine(Pos()));
     line.mark = MarkOfLine(line.text);
@@ -366,6 +378,7 @@ class Parser {
 
   Cursor cursor_;
   std::string_view text_;
+  bool damaged_ = false;
   Definitions definitions_ = Definitions::kOther;
   std::size_t furthest_ = 0;  // how far the form that is being tried was looked for
 };

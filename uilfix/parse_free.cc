@@ -66,16 +66,10 @@ class Scanner {
   // A string in either kind of quotes. One that runs over a line end is taken for a string only
   // when it is followed by what follows a string; otherwise its quote was never closed.
   std::size_t Literal(std::size_t pos) const {
-    const char quote = text_[pos];
-    std::size_t end = pos + 1;
-    bool lines = false;
-    while (end < text_.size() && text_[end] != quote) {
-      if (text_[end] == '\\') ++end;
-      lines |= At(end) == '\n';
-      ++end;
-    }
-    if (end >= text_.size()) return NoEnd(end);
-    ++end;
+    std::size_t end = text_[pos] == '"' ? LiteralEnd(text_, pos) : text_.find('\'', pos + 1);
+    if (end == kNone) return NoEnd(text_.size());
+    if (text_[pos] == '\'') ++end;
+    const bool lines = text_.substr(pos, end - pos).find('\n') != kNone;
     if (!lines) return end;
     std::size_t next = end;
     while (IsBlank(At(next))) ++next;
@@ -86,11 +80,12 @@ class Scanner {
   // What stands before the next `stop` outside of brackets, strings and comments; `plain` tells
   // whether there is no comment in it, and no quote but those of "strings".
   std::size_t Before(std::size_t pos, char stop, bool* plain = nullptr) const {
-    int depth = 0;
+    int parentheses = 0;
+    int braces = 0;
     bool simple = true;
     while (pos < text_.size()) {
       const char c = text_[pos];
-      if (c == stop && depth == 0) {
+      if (c == stop && parentheses == 0 && braces == 0) {
         if (plain) *plain = simple;
         return pos;
       }
@@ -101,9 +96,13 @@ class Scanner {
         simple = false;
         pos = Trivia(pos);
       } else {
-        if (c == '(' || c == '{') ++depth;
-        if (c == ')' || c == '}') --depth;
-        if (depth < 0) return NoEnd(pos);
+        const bool brace = c == '{' || c == '}';
+        if (brace && parentheses > 0) return NoEnd(pos);
+        if (c == '(') ++parentheses;
+        if (c == ')') --parentheses;
+        if (c == '{') ++braces;
+        if (c == '}') --braces;
+        if (parentheses < 0 || braces < 0) return NoEnd(pos);
         ++pos;
       }
       if (pos == kNone) return kNone;

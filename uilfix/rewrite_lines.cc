@@ -137,7 +137,7 @@ class LineMender {
       return;
     }
     LineBreaker breaker(column_, "\t");
-    breaker.AppendFree(verbatim.text);
+    breaker.AppendFree(verbatim.text, verbatim.mark != Mark::kNone);
     column_ = breaker.Column();
     if (breaker.Text() == verbatim.text) return;
     verbatim.text = breaker.Text();

@@ -56,18 +56,29 @@ void FixModule(Module& module, const Selection& selection, Report& report) {
 }
 
 std::string MendText(std::string_view text, const Selection& selection, Report& report,
-                     std::vector<GilStart> starts) {
+                     const std::vector<GilStart>& starts) {
   CarriageReturns found;
   std::string plain;
   if (text.find('\r') != std::string_view::npos && !selection.off.contains("lineends")) {
     plain = WithPlainLineEnds(text, &found);
     text = plain;
   }
-  Module module = ParseModule(text);
-  module.carriage_returns = found;
-  module.starts = std::move(starts);
-  FixModule(module, selection, report);
-  return RenderModule(module);
+  // What a damaged text means may change with what is mended in it; so it is mended until nothing is
+  // left to do. In any other the first round finds everything.
+  constexpr int kMostRounds = 10;
+  std::string mended;
+  for (int round = 0; round < kMostRounds; ++round) {
+    Module module = ParseModule(text);
+    if (round == 0) module.carriage_returns = found;
+    module.starts = starts;
+    FixModule(module, selection, report);
+    std::string result = RenderModule(module);
+    const bool same = result == text;
+    mended = std::move(result);
+    text = mended;
+    if (same || !module.damaged) break;
+  }
+  return mended;
 }
 
 std::string FixText(std::string_view text, const std::set<std::string, std::less<>>& off,

@@ -44,7 +44,7 @@ void FixModule(Module& module, const Selection& selection, Report& report);
 // Module text in, module text out; `starts` is from the GIL file that the module was made from, or
 // empty.
 std::string MendText(std::string_view text, const Selection& selection, Report& report,
-                     std::vector<GilStart> starts = {});
+                     const std::vector<GilStart>& starts = {});
 
 // The same with all but the rewrites in `off`, and none on request.
 std::string FixText(std::string_view text, const std::set<std::string, std::less<>>& off,
