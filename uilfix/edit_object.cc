@@ -24,9 +24,8 @@ Place FindMark(Place begin, Place end, Mark mark) {
 
 // Where the section ends whose head is at `head`; `end` when another begins before.
 Place SectionEnd(Place head, Place end) {
-  const Place next = std::find_if(head + 1, end, [](const Entry& entry) {
-    return MarkOf(entry) != Mark::kNone;
-  });
+  const Place next =
+      std::find_if(head + 1, end, [](const Entry& entry) { return MarkOf(entry) != Mark::kNone; });
   return next != end && MarkOf(*next) == Mark::kEnd ? next : end;
 }
 
@@ -58,10 +57,13 @@ bool AddArgument(Object& object, const std::string& resource, const std::string&
   Place begin = FindMark(entries.begin(), entries.end(), Mark::kArguments);
   if (begin == entries.end()) {
     // An object without a list of arguments gets one in front of all else.
-    if (object.IsComment() || FindMark(entries.begin(), entries.end(), Mark::kEnd) == entries.end()) {
+    if (object.IsComment() ||
+        FindMark(entries.begin(), entries.end(), Mark::kEnd) == entries.end()) {
       return false;
     }
-    entries.insert(entries.begin(), {Verbatim{"\targuments {\n", Mark::kArguments, object.line},
+    const bool own_line = !object.layout || object.layout->tail.ends_with('\n');
+    const std::string head = own_line ? "\targuments {\n" : "\n\targuments {\n";
+    entries.insert(entries.begin(), {Verbatim{head, Mark::kArguments, object.line},
                                      Verbatim{"\t\t};\n", Mark::kEnd, object.line}});
     begin = entries.begin();
   }

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "uilfix/gil_starts.h"
 
-#include <charconv>
 #include <cctype>
+#include <charconv>
 
 namespace uilfix {
 namespace {
 
 bool IsBlank(char c) { return std::isspace(static_cast<unsigned char>(c)) != 0; }
 
-// Takes the next word, string or parenthesis off a GIL text; empty at its end. A comment runs from a
-// semicolon to the line's end.
+// Takes the next word, string or parenthesis off a GIL text; empty at its end. A comment runs from
+// a semicolon to the line's end.
 std::string_view TakeToken(std::string_view& text) {
   for (;;) {
     while (!text.empty() && IsBlank(text[0])) text.remove_prefix(1);

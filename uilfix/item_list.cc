@@ -22,8 +22,7 @@ std::optional<std::vector<std::string>> SplitItems(std::string_view value) {
   std::vector<std::string> items;
   std::string item;
   int depth = 0;
-  const std::string_view inside =
-      value.substr(kTable.size(), value.size() - kTable.size() - 1);
+  const std::string_view inside = value.substr(kTable.size(), value.size() - kTable.size() - 1);
   for (const ValuePart& part : SplitValue(inside)) {
     if (part.literal) {
       item += part.text;

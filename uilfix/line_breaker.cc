@@ -42,9 +42,15 @@ void LineBreaker::Append(std::string_view text) {
   column_ = ColumnBehind(text, column_);
 }
 
-void LineBreaker::NewLine() {
-  while (text_.ends_with(' ')) text_.pop_back();
+// Leaves no blank and no carriage return in front of the line end.
+void LineBreaker::EndLine() {
+  while (text_.ends_with(' ') || text_.ends_with('\r')) text_.pop_back();
   text_ += '\n';
+  column_ = 0;
+}
+
+void LineBreaker::NewLine() {
+  EndLine();
   text_ += lead_;
   column_ = lead_.size();
 }
@@ -87,7 +93,7 @@ void LineBreaker::AppendLineComment(std::string_view comment) {
     Append(comment.substr(0, blank ? blank : room));
     comment.remove_prefix(blank ? blank + 1 : room);
     if (comment.empty()) break;
-    Append("\n");
+    EndLine();
     Append(again);
   }
   Append(comment);
@@ -107,7 +113,7 @@ void LineBreaker::AppendComment(std::string_view comment) {
     const std::size_t whole = comment[room - 1] == '*' && room > 1 ? room - 1 : room;
     Append(comment.substr(0, blank ? blank : whole));
     comment.remove_prefix(blank ? blank + 1 : whole);
-    Append("\n");
+    EndLine();
   }
 }
 

@@ -15,15 +15,16 @@ inline constexpr std::size_t kMaxLine = 130;
 
 class LineBreaker {
  public:
-  // `column` is how much of its line is written already; `lead` begins each line that a break makes.
+  // `column` is how much of its line is written already; `lead` begins each line that a break
+  // makes.
   LineBreaker(std::size_t column, std::string lead) : column_(column), lead_(std::move(lead)) {}
 
   // Text as it is.
   void Append(std::string_view text);
 
-  // Text between values: words, punctuation, strings, comments. Without `words` it breaks in strings
-  // and comments only: where nobody knows what the words mean, a line's first could come to mean
-  // something else.
+  // Text between values: words, punctuation, strings, comments. Without `words` it breaks in
+  // strings and comments only: where nobody knows what the words mean, a line's first could come to
+  // mean something else.
   void AppendFree(std::string_view text, bool words = true);
 
   // A value; `tail` follows it on its last line. A string at its start is broken where it stands,
@@ -37,6 +38,7 @@ class LineBreaker {
   std::size_t Column() const { return column_; }
 
  private:
+  void EndLine();
   void NewLine();
   void AppendLiteral(std::string_view literal, std::size_t after, bool at_start);
   void CutLiteral(std::string_view inside, std::size_t after);

@@ -2,10 +2,10 @@
 // A UIL module as its writer laid it out, in records that give the same bytes back. The rewrites of
 // pandrel-uilfix and the shell reader of pandrel-view work on these records and never on text.
 //
-// Two layouts are taken apart: the exact one that pandrel writes, in which a name may hold anything,
-// and the compiler's free one, for modules that were edited or written by hand. Any other text (a
-// value section, a message printed in front of the module) is kept whole as Verbatim, so reading
-// and rendering is the identity for every input.
+// Two layouts are taken apart: the exact one that pandrel writes, in which a name may hold
+// anything, and the compiler's free one, for modules that were edited or written by hand. Any other
+// text (a value section, a message printed in front of the module) is kept whole as Verbatim, so
+// reading and rendering is the identity for every input.
 #ifndef PANDREL_UILFIX_MODULE_H
 #define PANDREL_UILFIX_MODULE_H
 
@@ -44,9 +44,9 @@ using LayoutPtr = std::shared_ptr<const Layout>;
 // One line of a "controls" list: "<lead>[unmanaged ]Class name;".
 struct Control {
   std::string lead;  // comment prefix and tabs; in the free layout any blanks and comments
-  bool unmanaged = false;
   std::string class_name;
   std::string name;
+  bool unmanaged = false;
   int line = 0;
   LayoutPtr layout = nullptr;  // head "unmanaged ", middle " ", tail ";\n"
 };
@@ -66,20 +66,21 @@ struct Call {
   std::string procedure;
   std::string argument;  // as it stands between the parentheses; empty for none
   int line = 0;
-  LayoutPtr layout = nullptr;  // head: what stands before the call; middle "(", tail ");\n"
+  LayoutPtr layout = nullptr;  // head what stands before the call, middle "(", tail ");\n"
 };
 
 // One entry of a "callbacks" list: "<lead>XmNreason = procedure p(a);", or, with `list` set,
-// "<lead>XmNreason = procedures {" with each call on its own line.
+// "<lead>XmNreason = procedures {" with each call on its own line, and the closing brace on
+// another, behind "<lead>" and a tab.
 struct Callback {
   std::string lead;
   std::string reason;
-  bool list = false;
   std::vector<Call> calls;
-  std::string call_lead;       // list form: what stands before each call that has no layout
-  std::string close_lead;      // list form: what stands before the closing "};"
+  bool list = false;
   int line = 0;
-  LayoutPtr layout = nullptr;  // middle " = procedure " or " = procedures {\n", tail "};\n"
+  // Middle " = procedure "; of a list " = procedures {\n", head what stands before the closing
+  // brace, tail "};\n".
+  LayoutPtr layout = nullptr;
 };
 
 using Entry = std::variant<Verbatim, Control, Argument, Callback>;

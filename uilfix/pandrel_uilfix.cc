@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // pandrel-uilfix: a UIL module in, the module mended out, one line on standard error per change.
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
@@ -20,6 +21,12 @@ bool IsStandard(const std::string& file) { return file.empty() || file == "-"; }
 int Fail(const std::string& file) {
   std::cerr << kProgram << ": " << file << ": " << std::strerror(errno) << "\n";
   return kFailure;
+}
+
+// A name that holds a line end must not look like another report.
+std::string OnOneLine(std::string text) {
+  std::replace(text.begin(), text.end(), '\n', ' ');
+  return text;
 }
 
 // Whether both names mean one file, by whatever way.
@@ -48,13 +55,12 @@ int Fix(const uilfix::Options& options) {
     starts = uilfix::ReadGilStarts(*gil);
   }
   uilfix::Report report;
-  const std::string fixed =
-      uilfix::MendText(*text, options.selection, report, starts);
+  const std::string fixed = uilfix::MendText(*text, options.selection, report, starts);
   if (!options.quiet) {
     std::string lines;
     for (const uilfix::Change& change : report.Changes()) {
       lines += std::string(kProgram) + ": line " + std::to_string(change.line) + ": ";
-      lines += std::string(change.rewrite) + ": " + change.text + "\n";
+      lines += std::string(change.rewrite) + ": " + OnOneLine(change.text) + "\n";
     }
     std::cerr << lines;
   }

@@ -5,6 +5,7 @@
 // identity.
 #include <array>
 #include <cctype>
+#include <iterator>
 #include <optional>
 
 #include "uilfix/cursor.h"
@@ -17,7 +18,9 @@ namespace {
 
 constexpr std::size_t kNone = std::string_view::npos;
 
-bool IsWordChar(char c) { return std::isalnum(static_cast<unsigned char>(c)) || c == '_'; }
+bool IsWordChar(char c) {
+  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_';
+}
 
 struct SectionLine {
   std::string_view text;
@@ -198,10 +201,17 @@ class Parser {
   }
 
   void TakeEntries(Object& object) {
+    entries_.clear();
+    GatherEntries(object);
+    object.entries.assign(std::make_move_iterator(entries_.begin()),
+                          std::make_move_iterator(entries_.end()));
+  }
+
+  void GatherEntries(const Object& object) {
     Mark section = Mark::kNone;
     while (!cursor_.AtEnd() && !AtObject() && !cursor_.At("end module")) {
       if (auto entry = TakeEntry(section)) {
-        object.entries.push_back(std::move(*entry));
+        entries_.push_back(std::move(*entry));
         continue;
       }
       std::optional<Entry> piece = TakeSectionLine(object);
@@ -209,7 +219,7 @@ class Parser {
       if (!piece) piece = TakeOddLine(object);
       const auto* verbatim = std::get_if<Verbatim>(&*piece);
       const Mark mark = verbatim ? verbatim->mark : Mark::kNone;
-      object.entries.push_back(std::move(*piece));
+      entries_.push_back(std::move(*piece));
       if (mark == Mark::kEnd && section == Mark::kNone && !object.IsComment()) return;
       if (mark != Mark::kNone) section = mark == Mark::kEnd ? Mark::kNone : mark;
     }
@@ -325,16 +335,11 @@ class Parser {
     });
   }
 
-  // The calls of a list and its closing line. Every call stands behind the same lead.
+  // The calls of a list and its closing line, each one tab further in than the list.
   bool TakeCalls(Callback& callback) {
     for (;;) {
-      const std::string_view lead = TakeLead();
-      if (cursor_.TakeWord("};\n")) {
-        callback.close_lead = lead;
-        return !callback.calls.empty();
-      }
-      if (callback.calls.empty()) callback.call_lead = lead;
-      if (lead != callback.call_lead) return false;
+      if (!cursor_.TakeWord(callback.lead) || !cursor_.TakeWord("\t")) return false;
+      if (cursor_.TakeWord("};\n")) return !callback.calls.empty();
       auto call = TakeCall();
       if (!call) return false;
       callback.calls.push_back(std::move(*call));
@@ -378,6 +383,7 @@ class Parser {
 
   Cursor cursor_;
   std::string_view text_;
+  std::vector<Entry> entries_;  // of the object that is being read
   bool damaged_ = false;
   Definitions definitions_ = Definitions::kOther;
   std::size_t furthest_ = 0;  // how far the form that is being tried was looked for

@@ -300,11 +300,10 @@ std::optional<Entry> TakeFreeControl(Form& form, std::size_t start) {
   }
   form.MoveTo(form.Scan().RestOfLine(form.Pos()));
   const std::size_t class_end = class_begin + class_name.size();
-  Control control{form.Between(start, begin), unmanaged, std::string(class_name),
-                  std::string(name), form.LineOf(begin)};
-  control.layout =
-      MakeLayout(form.Between(begin, class_begin), form.Between(class_end, name_begin),
-                 form.Between(name_begin + name.size(), form.Pos()));
+  Control control{form.Between(start, begin), std::string(class_name), std::string(name), unmanaged,
+                  form.LineOf(begin)};
+  control.layout = MakeLayout(form.Between(begin, class_begin), form.Between(class_end, name_begin),
+                              form.Between(name_begin + name.size(), form.Pos()));
   return control;
 }
 
@@ -362,21 +361,19 @@ std::optional<Call> TakeFreeCall(Form& form, std::size_t start) {
   }
   if (!form.Char(';')) return std::nullopt;
   form.MoveTo(form.Scan().RestOfLine(form.Pos()));
-  Call call{std::string(procedure), form.Between(argument_begin, argument_end),
-            form.LineOf(begin)};
-  call.layout =
-      MakeLayout(form.Between(start, begin), form.Between(procedure_end, argument_begin),
-                 form.Between(argument_end, form.Pos()));
+  Call call{std::string(procedure), form.Between(argument_begin, argument_end), form.LineOf(begin)};
+  call.layout = MakeLayout(form.Between(start, begin), form.Between(procedure_end, argument_begin),
+                           form.Between(argument_end, form.Pos()));
   return call;
 }
 
-bool TakeFreeCalls(Form& form, Callback& callback) {
+bool TakeFreeCalls(Form& form, Callback& callback, std::string* close_lead) {
   for (;;) {
     const std::size_t start = form.Pos();
     form.Trivia();
     if (form.Failed()) return false;
     if (form.Next() == '}') {
-      callback.close_lead = form.Between(start, form.Pos());
+      *close_lead = form.Between(start, form.Pos());
       return !callback.calls.empty();
     }
     auto call = TakeFreeCall(form, start);
@@ -411,7 +408,8 @@ std::optional<Entry> TakeFreeCallback(Form& form, std::size_t start) {
       form.MoveTo(form.Scan().RestOfLine(form.Pos()));
       const std::size_t calls = form.Pos();
       callback.list = true;
-      taken = TakeFreeCalls(form, callback);
+      std::string close_lead;
+      taken = TakeFreeCalls(form, callback, &close_lead);
       if (taken) {
         const std::size_t close = form.Pos();
         form.Char('}');
@@ -420,7 +418,7 @@ std::optional<Entry> TakeFreeCallback(Form& form, std::size_t start) {
         if (taken) form.MoveTo(form.Scan().RestOfLine(form.Pos()));
         if (taken) {
           callback.layout =
-              MakeLayout("", form.Between(middle, calls), form.Between(close, form.Pos()));
+              MakeLayout(close_lead, form.Between(middle, calls), form.Between(close, form.Pos()));
         }
       }
     }

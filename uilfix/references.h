@@ -25,8 +25,8 @@ struct Target {
   std::string Text() const { return before + name + after; }
 };
 
-// The target that `call` names; nothing when its procedure takes none, or when its argument is empty
-// or a string with quotes in it, which is a label and not a name.
+// The target that `call` names; nothing when its procedure takes none, or when its argument is
+// empty or a string with quotes in it, which is a label and not a name.
 std::optional<Target> CallTarget(const Call& call);
 
 class References {

@@ -44,8 +44,8 @@ void Render(const Verbatim& verbatim, Out& out) {
 template <typename Out>
 void Render(const Control& control, Out& out) {
   const Layout& layout = LayoutOf(control.layout, control.unmanaged ? kUnmanaged : kControl);
-  out.Put({control.lead, layout.head, control.class_name, layout.middle, control.name,
-           layout.tail});
+  out.Put(
+      {control.lead, layout.head, control.class_name, layout.middle, control.name, layout.tail});
 }
 
 template <typename Out>
@@ -60,11 +60,11 @@ void Render(const Callback& callback, Out& out) {
   out.Put({callback.lead, callback.reason, layout.middle});
   for (const Call& call : callback.calls) {
     const Layout& around = LayoutOf(call.layout, kCall);
-    if (callback.list && !call.layout) out.Put({callback.call_lead});
+    if (callback.list && !call.layout) out.Put({callback.lead, "\t"});
     out.Put({around.head, call.procedure, around.middle, call.argument, around.tail});
   }
-  if (callback.list) out.Put({callback.close_lead});
-  out.Put({layout.tail});
+  if (callback.list && !callback.layout) out.Put({callback.lead, "\t"});
+  out.Put({layout.head, layout.tail});
 }
 
 template <typename Out>
@@ -76,8 +76,8 @@ void Render(const Declaration& declaration, Out& out) {
 template <typename Out>
 void Render(const Object& object, Out& out) {
   const Layout& layout = LayoutOf(object.layout, kObject);
-  out.Put({object.prefix, layout.head, object.prefix, object.name, layout.middle,
-           object.class_name, layout.tail});
+  out.Put({object.prefix, layout.head, object.prefix, object.name, layout.middle, object.class_name,
+           layout.tail});
   for (const Entry& entry : object.entries) {
     std::visit([&](const auto& record) { Render(record, out); }, entry);
   }

@@ -33,8 +33,9 @@ std::string WriteBytes(std::string_view inside) {
 
 void FixBytes(Module& module, Report& report) {
   ForEachValue(module, [&](const ValuePlace& place) {
-    const bool refused = std::any_of(place.value.begin(), place.value.end(),
-                                     [](char c) { return IsRefused(static_cast<unsigned char>(c)); });
+    const bool refused = std::any_of(place.value.begin(), place.value.end(), [](char c) {
+      return IsRefused(static_cast<unsigned char>(c));
+    });
     if (refused && ChangeLiterals(place.value, WriteBytes)) {
       report.Add(place.line, place.What() + ": unprintable bytes written as numbers");
     }

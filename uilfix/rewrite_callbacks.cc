@@ -26,8 +26,8 @@ struct ClassReason {
   std::string_view reason;
 };
 
-// What a GIL Notify becomes; that of a list goes by its selection policy. A drawing area is missing:
-// its repaint, resize and input procedures cannot be told apart.
+// What a GIL Notify becomes; that of a list goes by its selection policy. A drawing area is
+// missing: its repaint, resize and input procedures cannot be told apart.
 constexpr ClassReason kClassReasons[] = {
     {"XmPushButton", "XmNactivateCallback"},
     {"XmText", "XmNactivateCallback"},
@@ -70,8 +70,6 @@ Callback& EntryFor(std::vector<Callback>& callbacks, std::string_view reason,
   Callback callback;
   callback.lead = model.lead;
   callback.reason = reason;
-  callback.call_lead = model.lead + '\t';
-  callback.close_lead = model.lead + '\t';
   callback.line = model.line;
   callbacks.push_back(std::move(callback));
   return callbacks.back();

@@ -13,17 +13,31 @@ namespace uilfix {
 namespace {
 
 constexpr std::array<std::string_view, 13> kChildless = {
-    "XmPushButton", "XmToggleButton", "XmCascadeButton", "XmLabel",       "XmText",
-    "XmTextField",  "XmScrolledText", "XmList",          "XmScrolledList", "XmSeparator",
-    "XmArrowButton", "XmDrawnButton", "XmScrollBar"};
+    "XmPushButton",  "XmToggleButton", "XmCascadeButton", "XmLabel",        "XmText",
+    "XmTextField",   "XmScrolledText", "XmList",          "XmScrolledList", "XmSeparator",
+    "XmArrowButton", "XmDrawnButton",  "XmScrollBar"};
 
 // What places a widget in its parent.
-constexpr std::array<std::string_view, 20> kPlacing = {
-    "XmNx",               "XmNy",              "XmNtopAttachment",  "XmNbottomAttachment",
-    "XmNleftAttachment",  "XmNrightAttachment", "XmNtopWidget",      "XmNbottomWidget",
-    "XmNleftWidget",      "XmNrightWidget",    "XmNtopOffset",      "XmNbottomOffset",
-    "XmNleftOffset",      "XmNrightOffset",    "XmNtopPosition",    "XmNbottomPosition",
-    "XmNleftPosition",    "XmNrightPosition",  "XmNchildType",      "XmNchildVerticalAlignment"};
+constexpr std::array<std::string_view, 20> kPlacing = {"XmNx",
+                                                       "XmNy",
+                                                       "XmNtopAttachment",
+                                                       "XmNbottomAttachment",
+                                                       "XmNleftAttachment",
+                                                       "XmNrightAttachment",
+                                                       "XmNtopWidget",
+                                                       "XmNbottomWidget",
+                                                       "XmNleftWidget",
+                                                       "XmNrightWidget",
+                                                       "XmNtopOffset",
+                                                       "XmNbottomOffset",
+                                                       "XmNleftOffset",
+                                                       "XmNrightOffset",
+                                                       "XmNtopPosition",
+                                                       "XmNbottomPosition",
+                                                       "XmNleftPosition",
+                                                       "XmNrightPosition",
+                                                       "XmNchildType",
+                                                       "XmNchildVerticalAlignment"};
 
 constexpr std::array<std::string_view, 4> kNeighbours = {"XmNtopWidget", "XmNbottomWidget",
                                                          "XmNleftWidget", "XmNrightWidget"};
@@ -65,11 +79,11 @@ Object MakeContainer(Object& object, const std::string& name) {
   box.line = object.line;
   auto& entries = box.entries;
   entries.emplace_back(Verbatim{"\tcontrols {\n", Mark::kControls, object.line});
-  entries.emplace_back(Control{"\t\t", false, object.class_name, object.name, object.line});
+  entries.emplace_back(Control{"\t\t", object.class_name, object.name, false, object.line});
   for (const Entry& entry : TakeEntries(object, IsMisplaced)) {
     const auto& child = std::get<Control>(entry);
     entries.emplace_back(
-        Control{"\t\t", child.unmanaged, child.class_name, child.name, child.line});
+        Control{"\t\t", child.class_name, child.name, child.unmanaged, child.line});
   }
   entries.emplace_back(Verbatim{"\t\t};\n", Mark::kEnd, object.line});
   entries.emplace_back(Verbatim{"\targuments {\n", Mark::kArguments, object.line});
@@ -84,7 +98,8 @@ Object MakeContainer(Object& object, const std::string& name) {
   for (const char* margin : {"XmNmarginWidth", "XmNmarginHeight"}) {
     entries.emplace_back(Argument{"\t\t", margin, "0", object.line});
   }
-  entries.emplace_back(Verbatim{"\t\t};\n\tcallbacks {\n\t\t};\n\n\t};\n\n", Mark::kEnd, object.line});
+  entries.emplace_back(
+      Verbatim{"\t\t};\n\tcallbacks {\n\t\t};\n\n\t};\n", Mark::kEnd, object.line});
   return box;
 }
 
@@ -132,11 +147,13 @@ void FixContainers(Module& module, Report& report) {
     if (object && NeedsContainer(*object) && controlled.contains(object->name)) {
       box = MakeContainer(*object, renamer.NewName(object->name, "_box", true));
       boxes[object->name] = box->name;
-      report.Add(object->line, "children of " + object->name + " now stand beside it in " +
-                                   box->name);
+      report.Add(object->line,
+                 "children of " + object->name + " now stand beside it in " + box->name);
     }
     items.push_back(std::move(item));
-    if (box) items.emplace_back(std::move(*box));
+    if (!box) continue;
+    items.emplace_back(Verbatim{"\n", Mark::kNone, box->line});
+    items.emplace_back(std::move(*box));
   }
   module.items = std::move(items);
   ForEachObject(module, [&](Object& object) { TakePlaces(object, boxes); });

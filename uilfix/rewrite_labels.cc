@@ -19,7 +19,8 @@ std::vector<std::string_view> SplitLines(std::string_view inside) {
   while (!rest.empty() && lines.size() < kMostLines) {
     const std::size_t end = inside.size() - rest.size();
     if (TakeCharacter(rest) != "\\n") continue;
-    const std::size_t begin = lines.empty() ? 0 : lines.back().data() + lines.back().size() + 2 - inside.data();
+    const std::size_t begin =
+        lines.empty() ? 0 : lines.back().data() + lines.back().size() + 2 - inside.data();
     lines.push_back(inside.substr(begin, end - begin));
   }
   if (lines.empty() || lines.size() == kMostLines) return {};

@@ -70,8 +70,7 @@ class LineMender {
       line = argument->line;
       what = argument->resource;
     } else if (const auto* callback = std::get_if<Callback>(&entry)) {
-      breaker = BreakerFor(callback->list && !callback->layout ? callback->call_lead
-                                                               : callback->lead);
+      breaker = BreakerFor(callback->lead + (callback->list ? "\t" : ""));
       Break(*callback, text, breaker);
       line = callback->line;
       what = callback->reason;
@@ -119,7 +118,7 @@ class LineMender {
       if (call.layout) {
         breaker.AppendFree(call.layout->head);
       } else if (callback.list) {
-        breaker.Append(callback.call_lead);
+        breaker.Append(callback.lead + '\t');
       }
       breaker.Append(call.procedure);
       breaker.AppendFree(Part(call.layout, &Layout::middle, "("));
@@ -127,7 +126,9 @@ class LineMender {
       breaker.AppendValue(call.argument, tail);
       breaker.AppendFree(tail);
     }
-    if (callback.list) breaker.AppendFree(callback.close_lead);
+    if (callback.list) {
+      breaker.AppendFree(Part(callback.layout, &Layout::head, callback.lead + '\t'));
+    }
     breaker.AppendFree(Part(callback.layout, &Layout::tail, callback.list ? "};\n" : ""));
   }
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Any text through the mender. The first byte selects the rewrites that run on request.
 //
-// Reading and rendering gives the text back; mending what was mended changes nothing; and what comes
-// out is in proportion to what went in.
+// Reading and rendering gives the text back; mending what was mended changes nothing; and what
+// comes out is in proportion to what went in.
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -42,8 +42,7 @@ uilfix::Selection SelectionOf(uint8_t bits) {
 
 std::string Mend(std::string_view text, const uilfix::Selection& selection) {
   uilfix::Report report;
-  std::string mended =
-      uilfix::MendText(text, selection, report, uilfix::ReadGilStarts(kStarts));
+  std::string mended = uilfix::MendText(text, selection, report, uilfix::ReadGilStarts(kStarts));
   const bool silent = report.Changes().empty();
   Require(!silent || mended == text, "changed without a report", text);
   return mended;

@@ -43,8 +43,7 @@ TEST(Options, WithSwitchesOnWhatRunsOnRequest) {
   const Options options = ParseOptions({"--with=order,dialogs", "--no-lines"});
   for (const Rewrite& rewrite : Rewrites()) {
     const bool wanted = rewrite.name == "order" || rewrite.name == "dialogs";
-    EXPECT_EQ(options.selection.Has(rewrite),
-              rewrite.on_request ? wanted : rewrite.name != "lines")
+    EXPECT_EQ(options.selection.Has(rewrite), rewrite.on_request ? wanted : rewrite.name != "lines")
         << rewrite.name;
     EXPECT_EQ(ParseOptions({}).selection.Has(rewrite), !rewrite.on_request) << rewrite.name;
   }
