@@ -50,20 +50,61 @@ std::string LatinText(std::uint32_t code) {
   return "?";
 }
 
-// `inside` in Latin-1; unchanged when it is plain ASCII or not UTF-8 throughout.
-std::string ToLatin(std::string_view inside) {
+// A text in Latin-1; nothing when it is plain ASCII or not UTF-8 throughout.
+std::optional<std::string> ToLatin(std::string_view text) {
   std::string latin;
-  for (std::string_view rest = inside; !rest.empty();) {
-    if (static_cast<unsigned char>(rest[0]) < 0x80) {
-      latin += rest[0];
-      rest.remove_prefix(1);
+  bool ascii = true;
+  while (!text.empty()) {
+    if (static_cast<unsigned char>(text[0]) < 0x80) {
+      latin += text[0];
+      text.remove_prefix(1);
       continue;
     }
-    const auto code = TakeCodePoint(rest);
-    if (!code) return std::string(inside);
+    const auto code = TakeCodePoint(text);
+    if (!code) return std::nullopt;
     latin += LatinText(*code);
+    ascii = false;
   }
+  if (ascii) return std::nullopt;
   return latin;
+}
+
+// Whether what stands between two literals makes one text of them.
+bool Joins(const ValuePart& part) {
+  return part.text.find('&') != std::string::npos &&
+         part.text.find_first_not_of(" \t\n&") == std::string::npos;
+}
+
+// Writes the literals from `begin` to `end`, which make one text, in Latin-1. What was encoded twice
+// is UTF-8 still after the first time. Returns whether anything changed.
+bool ChangeText(std::vector<ValuePart>& parts, std::size_t begin, std::size_t end) {
+  bool changed = false;
+  for (bool again = true; again;) {
+    again = false;
+    std::string whole;
+    for (std::size_t i = begin; i < end; ++i) whole += parts[i].literal ? parts[i].text : "";
+    if (!ToLatin(whole)) return changed;
+    for (std::size_t i = begin; i < end; ++i) {
+      auto latin = parts[i].literal ? ToLatin(parts[i].text) : std::nullopt;
+      if (!latin) continue;
+      parts[i].text = std::move(*latin);
+      again = changed = true;
+    }
+  }
+  return changed;
+}
+
+bool ChangeEncoding(std::string& value) {
+  std::vector<ValuePart> parts = SplitValue(value);
+  bool changed = false;
+  std::size_t begin = 0;
+  for (std::size_t i = 0; i <= parts.size(); ++i) {
+    if (i < parts.size() && (parts[i].literal || Joins(parts[i]))) continue;
+    changed |= ChangeText(parts, begin, i);
+    begin = i + 1;
+  }
+  if (changed) value = JoinValue(parts);
+  return changed;
 }
 
 }  // namespace
@@ -72,7 +113,7 @@ void FixEncoding(Module& module, Report& report) {
   ForEachValue(module, [&](const ValuePlace& place) {
     const bool ascii = std::none_of(place.value.begin(), place.value.end(),
                                     [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
-    if (!ascii && ChangeLiterals(place.value, ToLatin)) {
+    if (!ascii && ChangeEncoding(place.value)) {
       report.Add(place.line, place.What() + ": UTF-8 written as Latin-1");
     }
   });
