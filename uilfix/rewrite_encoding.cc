@@ -83,7 +83,8 @@ bool ChangeText(std::vector<ValuePart>& parts, std::size_t begin, std::size_t en
     again = false;
     std::string whole;
     for (std::size_t i = begin; i < end; ++i) whole += parts[i].literal ? parts[i].text : "";
-    if (!ToLatin(whole)) return changed;
+    // A byte that is written as a number counts as well: as such it is no UTF-8.
+    if (!ToLatin(LiteralBytes(whole))) return changed;
     for (std::size_t i = begin; i < end; ++i) {
       auto latin = parts[i].literal ? ToLatin(parts[i].text) : std::nullopt;
       if (!latin) continue;

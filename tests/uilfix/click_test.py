@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 """Mended modules at work: converted, mended, compiled, and clicked under an X server of their own.
 
-Each test runs the module without the rewrite as well, where the click has to fail: otherwise it would
+Where the module compiles without the rewrite as well, the click has to fail there: otherwise it would
 say nothing about the rewrite.
 
 usage: click_test.py BUILD-FOLDERS [unittest arguments]    as for view_test.py
