@@ -69,40 +69,24 @@ std::optional<std::string> ToLatin(std::string_view text) {
   return latin;
 }
 
-// Whether what stands between two literals makes one text of them.
-bool Joins(const ValuePart& part) {
-  return part.text.find('&') != std::string::npos &&
-         part.text.find_first_not_of(" \t\n&") == std::string::npos;
-}
-
-// Writes the literals from `begin` to `end`, which make one text, in Latin-1. What was encoded twice
-// is UTF-8 still after the first time. Returns whether anything changed.
-bool ChangeText(std::vector<ValuePart>& parts, std::size_t begin, std::size_t end) {
+// Writes the literals of a value in Latin-1. They are looked at together, since they may be parts of
+// one text: the part of another encoding's text may look like UTF-8. What was encoded twice is UTF-8
+// still after the first time. Returns whether anything changed.
+bool ChangeEncoding(std::string& value) {
+  std::vector<ValuePart> parts = SplitValue(value);
   bool changed = false;
   for (bool again = true; again;) {
     again = false;
     std::string whole;
-    for (std::size_t i = begin; i < end; ++i) whole += parts[i].literal ? parts[i].text : "";
+    for (const ValuePart& part : parts) whole += part.literal ? part.text : "";
     // A byte that is written as a number counts as well: as such it is no UTF-8.
-    if (!ToLatin(LiteralBytes(whole))) return changed;
-    for (std::size_t i = begin; i < end; ++i) {
-      auto latin = parts[i].literal ? ToLatin(parts[i].text) : std::nullopt;
+    if (!ToLatin(LiteralBytes(whole))) break;
+    for (ValuePart& part : parts) {
+      auto latin = part.literal ? ToLatin(part.text) : std::nullopt;
       if (!latin) continue;
-      parts[i].text = std::move(*latin);
+      part.text = std::move(*latin);
       again = changed = true;
     }
-  }
-  return changed;
-}
-
-bool ChangeEncoding(std::string& value) {
-  std::vector<ValuePart> parts = SplitValue(value);
-  bool changed = false;
-  std::size_t begin = 0;
-  for (std::size_t i = 0; i <= parts.size(); ++i) {
-    if (i < parts.size() && (parts[i].literal || Joins(parts[i]))) continue;
-    changed |= ChangeText(parts, begin, i);
-    begin = i + 1;
   }
   if (changed) value = JoinValue(parts);
   return changed;
