@@ -110,7 +110,7 @@ using Item = std::variant<Verbatim, Declaration, Object>;
 
 struct Module {
   std::vector<Item> items;
-  bool damaged = false;              // holds lines that belong to no definition and no object
+  bool damaged = false;              // holds text, in objects or between them, that fits no form
   CarriageReturns carriage_returns;  // left out when it was read
   std::vector<GilStart> starts;      // from the GIL file, when the user named it
 };

@@ -219,6 +219,7 @@ class Parser {
       if (!piece) piece = TakeOddLine(object);
       const auto* verbatim = std::get_if<Verbatim>(&*piece);
       const Mark mark = verbatim ? verbatim->mark : Mark::kNone;
+      if (verbatim && mark == Mark::kNone) damaged_ |= !IsSilent(verbatim->text);
       entries_.push_back(std::move(*piece));
       if (mark == Mark::kEnd && section == Mark::kNone && !object.IsComment()) return;
       if (mark != Mark::kNone) section = mark == Mark::kEnd ? Mark::kNone : mark;
@@ -238,10 +239,7 @@ class Parser {
   }
 
   Verbatim TakeOddLine(const Object& object) {
-    if (!object.IsComment()) {
-      damaged_ |= !IsSilent(text_.substr(Pos(), cursor_.EndOfLine(Pos()) - Pos()));
-      return TakeFreeLine(cursor_);
-    }
+    if (!object.IsComment()) return TakeFreeLine(cursor_);
     Verbatim line{"", Mark::kNone, cursor_.Line()};
     line.text = cursor_.TakeTo(cursor_.EndOfLine(Pos()));
     line.mark = MarkOfLine(line.text);

@@ -69,9 +69,9 @@ std::optional<std::string> ToLatin(std::string_view text) {
   return latin;
 }
 
-// Writes the literals of a value in Latin-1. They are looked at together, since they may be parts of
-// one text: the part of another encoding's text may look like UTF-8. What was encoded twice is UTF-8
-// still after the first time. Returns whether anything changed.
+// Writes the literals of a value in Latin-1. They are looked at together, since they may be parts
+// of one text: the part of another encoding's text may look like UTF-8. What was encoded twice is
+// UTF-8 still after the first time. Returns whether anything changed.
 bool ChangeEncoding(std::string& value) {
   std::vector<ValuePart> parts = SplitValue(value);
   bool changed = false;

@@ -63,8 +63,8 @@ std::string MendText(std::string_view text, const Selection& selection, Report& 
     plain = WithPlainLineEnds(text, &found);
     text = plain;
   }
-  // What a damaged text means may change with what is mended in it; so it is mended until nothing
-  // is left to do. In any other the first round finds everything.
+  // What text in no known form means may change with what is mended in it; so it is mended until
+  // nothing is left to do. In any other the first round finds everything.
   constexpr int kMostRounds = 10;
   std::string mended;
   for (int round = 0; round < kMostRounds; ++round) {
