@@ -104,7 +104,9 @@ class LineMender {
     breaker.AppendFree(Part(argument.layout, &Layout::middle, " = "));
     const std::string_view tail = Part(argument.layout, &Layout::tail, ";\n");
     breaker.AppendValue(argument.value, tail);
-    breaker.AppendFree(tail);
+    // A ";" alone on its line would not be pandrel's layout any more, which commented lines must
+    // be.
+    argument.layout ? breaker.AppendFree(tail) : breaker.Append(tail);
   }
 
   void Break(const Callback& callback, std::string_view text, LineBreaker& breaker) const {
@@ -124,7 +126,7 @@ class LineMender {
       breaker.AppendFree(Part(call.layout, &Layout::middle, "("));
       const std::string_view tail = Part(call.layout, &Layout::tail, ");\n");
       breaker.AppendValue(call.argument, tail);
-      breaker.AppendFree(tail);
+      call.layout ? breaker.AppendFree(tail) : breaker.Append(tail);
     }
     if (callback.list) {
       breaker.AppendFree(Part(callback.layout, &Layout::head, callback.lead + '\t'));
