@@ -2,7 +2,6 @@
 #include "uilfix/literals.h"
 
 #include <cctype>
-#include <cstdlib>
 #include <cstring>
 
 namespace uilfix {
@@ -15,6 +14,15 @@ constexpr char kEscapeBytes[] = "\n\t\v\r\b\f\\\"'";
 bool IsDigit(char c) { return std::isdigit(static_cast<unsigned char>(c)) != 0; }
 
 bool IsEscapeLetter(char c) { return c != '\0' && std::strchr(kEscapeLetters, c) != nullptr; }
+
+// The decimal digits at the start of `text`, four of them at most.
+int Number(std::string_view text) {
+  int number = 0;
+  for (std::size_t i = 0; i < text.size() && i < 4 && IsDigit(text[i]); ++i) {
+    number = number * 10 + (text[i] - '0');
+  }
+  return number;
+}
 
 }  // namespace
 
@@ -76,8 +84,7 @@ std::size_t EscapeLength(std::string_view text) {
   std::size_t end = 1;
   while (end < text.size() && end < 5 && IsDigit(text[end])) ++end;
   if (end == 1 || end >= text.size() || text[end] != '\\') return 0;
-  const int number = std::atoi(std::string(text.substr(1, end - 1)).c_str());
-  return number <= 255 ? end + 1 : 0;
+  return Number(text.substr(1)) <= 255 ? end + 1 : 0;
 }
 
 std::string NumericEscape(unsigned char byte) {
@@ -87,29 +94,27 @@ std::string NumericEscape(unsigned char byte) {
   return escape;
 }
 
-std::vector<std::string> SplitCharacters(std::string_view inside) {
-  std::vector<std::string> characters;
-  while (!inside.empty()) {
-    std::size_t length = 1;
-    if (inside[0] == '\\') {
-      length = EscapeLength(inside);
-      if (length == 0) length = inside.size() > 1 ? 2 : 1;
-    }
-    characters.emplace_back(inside.substr(0, length));
-    inside.remove_prefix(length);
+std::string_view TakeCharacter(std::string_view& inside) {
+  std::size_t length = 1;
+  if (inside[0] == '\\') {
+    length = EscapeLength(inside);
+    if (length == 0) length = inside.size() > 1 ? 2 : 1;
   }
-  return characters;
+  const std::string_view character = inside.substr(0, length);
+  inside.remove_prefix(length);
+  return character;
 }
 
 std::string LiteralBytes(std::string_view inside) {
   std::string bytes;
-  for (const std::string& character : SplitCharacters(inside)) {
+  while (!inside.empty()) {
+    const std::string_view character = TakeCharacter(inside);
     if (character.size() == 1) {
       bytes += character;
     } else if (IsEscapeLetter(character[1])) {
       bytes += kEscapeBytes[std::strchr(kEscapeLetters, character[1]) - kEscapeLetters];
     } else if (IsDigit(character[1])) {
-      bytes += static_cast<char>(std::atoi(character.c_str() + 1));
+      bytes += static_cast<char>(Number(character.substr(1)));
     } else {
       bytes += character.substr(1);
     }

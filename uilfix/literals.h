@@ -37,9 +37,9 @@ std::size_t EscapeLength(std::string_view text);
 // A byte as the compiler's numeric escape: \233\.
 std::string NumericEscape(unsigned char byte);
 
-// The characters of a literal's inside. A backslash that the compiler refuses is a character with
-// the byte after it.
-std::vector<std::string> SplitCharacters(std::string_view inside);
+// Takes the first character off the inside of a literal, which must not be empty. A backslash that
+// the compiler refuses is a character with the byte after it.
+std::string_view TakeCharacter(std::string_view& inside);
 
 // The bytes that the inside of a literal stands for, escapes resolved as the compiler does.
 std::string LiteralBytes(std::string_view inside);

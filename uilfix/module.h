@@ -2,31 +2,53 @@
 // A UIL module as its writer laid it out, in records that give the same bytes back. The rewrites of
 // pandrel-uilfix and the shell reader of pandrel-view work on these records and never on text.
 //
-// Only the exact layout that pandrel writes is taken apart; any other text (a hand-made value
-// section, a message printed in front of the module) is kept whole as Verbatim, so reading and
-// rendering is the identity for every input.
+// Two layouts are taken apart: the exact one that pandrel writes, in which a name may hold
+// anything, and the compiler's free one, for modules that were edited or written by hand. Any other
+// text (a value section, a message printed in front of the module) is kept whole as Verbatim, so
+// reading and rendering is the identity for every input.
 #ifndef PANDREL_UILFIX_MODULE_H
 #define PANDREL_UILFIX_MODULE_H
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <variant>
 #include <vector>
 
+#include "uilfix/gil_starts.h"
+#include "uilfix/line_ends.h"
+
 namespace uilfix {
+
+// What a Verbatim text does in its object.
+enum class Mark { kNone, kControls, kArguments, kCallbacks, kEnd };
 
 // Text that no rewrite looks into, line end included.
 struct Verbatim {
   std::string text;
+  Mark mark = Mark::kNone;  // the section it opens; kEnd closes a section or the object
+  int line = 0;             // in the module as read, counted from 1; of the text's first line
 };
+
+// The texts around the names and values of a record, where they are not what pandrel writes. Each
+// record says which of the three it has.
+struct Layout {
+  std::string head;
+  std::string middle;
+  std::string tail;
+};
+
+// Null stands for pandrel's own layout.
+using LayoutPtr = std::shared_ptr<const Layout>;
 
 // One line of a "controls" list: "<lead>[unmanaged ]Class name;".
 struct Control {
-  std::string lead;  // comment prefix and tabs
-  bool unmanaged = false;
+  std::string lead;  // comment prefix and tabs; in the free layout any blanks and comments
   std::string class_name;
   std::string name;
-  int line = 0;  // in the module as read, counted from 1
+  bool unmanaged = false;
+  int line = 0;
+  LayoutPtr layout = nullptr;  // head "unmanaged ", middle " ", tail ";\n"
 };
 
 // One entry of an "arguments" list: "<lead>XmNresource = value;". The value may run over several
@@ -36,6 +58,7 @@ struct Argument {
   std::string resource;
   std::string value;  // without the semicolon
   int line = 0;
+  LayoutPtr layout = nullptr;  // middle " = ", tail ";\n"
 };
 
 // One procedure call of a callback: "procedure(argument)".
@@ -43,18 +66,21 @@ struct Call {
   std::string procedure;
   std::string argument;  // as it stands between the parentheses; empty for none
   int line = 0;
+  LayoutPtr layout = nullptr;  // head what stands before the call, middle "(", tail ");\n"
 };
 
 // One entry of a "callbacks" list: "<lead>XmNreason = procedure p(a);", or, with `list` set,
-// "<lead>XmNreason = procedures {" with each call on its own line.
+// "<lead>XmNreason = procedures {" with each call on its own line, and the closing brace on
+// another, behind "<lead>" and a tab.
 struct Callback {
   std::string lead;
   std::string reason;
-  bool list = false;
   std::vector<Call> calls;
-  std::string call_lead;   // list form: what stands before each call
-  std::string close_lead;  // list form: what stands before the closing "};"
+  bool list = false;
   int line = 0;
+  // Middle " = procedure "; of a list " = procedures {\n", head what stands before the closing
+  // brace, tail "};\n".
+  LayoutPtr layout = nullptr;
 };
 
 using Entry = std::variant<Verbatim, Control, Argument, Callback>;
@@ -63,16 +89,18 @@ using Entry = std::variant<Verbatim, Control, Argument, Callback>;
 struct Declaration {
   std::string name;
   int line = 0;
+  LayoutPtr layout = nullptr;  // head "procedure ", tail ";\n"
 };
 
-// "<prefix>object", "<prefix>name:Class{" and everything up to the next object or "end module".
-// The section heads and closing braces stand among the entries as Verbatim.
+// "<prefix>object", "<prefix>name:Class{" and everything up to the object's closing brace. The
+// section heads and closing braces stand among the entries as Verbatim.
 struct Object {
   std::string prefix;  // "", or "!" / "!(ZO)" for a shell that stands only in comments
   std::string name;
   std::string class_name;
   std::vector<Entry> entries;
-  int line = 0;  // of the line that holds the name
+  int line = 0;                // of the line that holds the name
+  LayoutPtr layout = nullptr;  // head "object\n", middle ":", tail "{\n"
 
   // A commented object: the compiler never sees it.
   bool IsComment() const { return !prefix.empty(); }
@@ -82,6 +110,9 @@ using Item = std::variant<Verbatim, Declaration, Object>;
 
 struct Module {
   std::vector<Item> items;
+  bool damaged = false;              // holds text, in objects or between them, that fits no form
+  CarriageReturns carriage_returns;  // left out when it was read
+  std::vector<GilStart> starts;      // from the GIL file, when the user named it
 };
 
 // Takes a module apart. Never fails.
@@ -92,6 +123,16 @@ std::string RenderModule(const Module& module);
 
 // One entry as text, line end included.
 std::string RenderEntry(const Entry& entry);
+
+// How many bytes RenderEntry gives.
+std::size_t EntrySize(const Entry& entry);
+
+// Whether the text holds a module: a line that begins with "module" and a name. What is printed in
+// front of it does not matter.
+bool HoldsModule(std::string_view text);
+
+// Whether a line of a live object stands in a comment.
+inline bool IsCommented(std::string_view lead) { return lead.starts_with('!'); }
 
 // Calls `visit(Object&)` for each object of the module in order.
 template <typename M, typename Visit>
@@ -112,12 +153,16 @@ void ForEachEntry(O& object, Visit visit) {
 // Whether the value of this resource is the name of a widget.
 bool IsWidgetReference(std::string_view resource);
 
-// The value of the object's argument `resource`, or null when it has none.
+// The value of the object's argument `resource`, or null when it has none. A line that stands in a
+// comment within a live object does not count.
 const std::string* FindArgument(const Object& object, std::string_view resource);
 
 // Adds an argument behind the object's others. Returns false, and does nothing, when the list of
 // arguments cannot be found.
 bool AddArgument(Object& object, const std::string& resource, const std::string& value);
+
+// Makes a control unmanaged, whatever it was.
+void Unmanage(Control& control);
 
 }  // namespace uilfix
 

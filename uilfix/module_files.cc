@@ -3,6 +3,7 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <filesystem>
 
 namespace uilfix {
 namespace {
@@ -15,9 +16,12 @@ std::optional<std::string> ReadFile(const std::string& file) {
   std::FILE* stream = IsStandard(file) ? stdin : std::fopen(file.c_str(), "rb");
   if (!stream) return std::nullopt;
   std::string text;
+  std::error_code unknown;
+  const auto size = std::filesystem::file_size(file, unknown);
+  if (!unknown) text.reserve(size);
   char buffer[65536];
-  while (const std::size_t size = std::fread(buffer, 1, sizeof buffer, stream)) {
-    text.append(buffer, size);
+  while (const std::size_t read = std::fread(buffer, 1, sizeof buffer, stream)) {
+    text.append(buffer, read);
   }
   const bool failed = std::ferror(stream) != 0;
   const int reason = errno;

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 // pandrel-uilfix: a UIL module in, the module mended out, one line on standard error per change.
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <filesystem>
 #include <iostream>
 
 #include "uilfix/module_files.h"
-#include "uilfix/uilfix_options.h"
 #include "uilfix/rewrites.h"
+#include "uilfix/uilfix_options.h"
 
 namespace {
 
@@ -21,16 +23,46 @@ int Fail(const std::string& file) {
   return kFailure;
 }
 
+// A name that holds a line end must not look like another report.
+std::string OnOneLine(std::string text) {
+  std::replace(text.begin(), text.end(), '\n', ' ');
+  return text;
+}
+
+// Whether both names mean one file, by whatever way.
+bool IsSameFile(const std::string& a, const std::string& b) {
+  std::error_code error;
+  return !IsStandard(a) && !IsStandard(b) && std::filesystem::equivalent(a, b, error);
+}
+
 int Fix(const uilfix::Options& options) {
+  for (const std::string& file : {options.input, options.gil}) {
+    if (!IsSameFile(file, options.output)) continue;
+    std::cerr << kProgram << ": " << options.output << ": would replace the input\n";
+    return kFailure;
+  }
+  const std::string input = IsStandard(options.input) ? "standard input" : options.input;
   const auto text = uilfix::ReadFile(options.input);
-  if (!text) return Fail(IsStandard(options.input) ? "standard input" : options.input);
+  if (!text) return Fail(input);
+  if (!uilfix::HoldsModule(*text)) {
+    std::cerr << kProgram << ": " << input << ": no UIL module\n";
+    return kFailure;
+  }
+  std::vector<uilfix::GilStart> starts;
+  if (!options.gil.empty()) {
+    const auto gil = uilfix::ReadFile(options.gil);
+    if (!gil) return Fail(options.gil);
+    starts = uilfix::ReadGilStarts(*gil);
+  }
   uilfix::Report report;
-  const std::string fixed = uilfix::FixText(*text, options.off, report);
+  const std::string fixed = uilfix::MendText(*text, options.selection, report, starts);
   if (!options.quiet) {
+    std::string lines;
     for (const uilfix::Change& change : report.Changes()) {
-      std::cerr << kProgram << ": line " << change.line << ": " << change.rewrite << ": "
-                << change.text << "\n";
+      lines += std::string(kProgram) + ": line " + std::to_string(change.line) + ": ";
+      lines += std::string(change.rewrite) + ": " + OnOneLine(change.text) + "\n";
     }
+    std::cerr << lines;
   }
   if (!uilfix::WriteFile(options.output, fixed)) {
     return Fail(IsStandard(options.output) ? "standard output" : options.output);

@@ -1,142 +1,190 @@
 // SPDX-License-Identifier: MIT
-// Text to module records. Each form is tried where it may stand; what fits no form is taken as one
-// line of Verbatim. A form is accepted only when it spells the consumed bytes exactly, which is
-// what makes reading and rendering the identity.
-#include <algorithm>
+// Text to module records. Each form of pandrel's own layout is tried where it may stand, then the
+// compiler's free layout; what fits neither is taken as one line of Verbatim. A form is accepted
+// only when it spells the consumed bytes exactly, which is what makes reading and rendering the
+// identity.
+#include <array>
 #include <cctype>
+#include <iterator>
 #include <optional>
 
+#include "uilfix/cursor.h"
 #include "uilfix/literals.h"
 #include "uilfix/module.h"
+#include "uilfix/parse_free.h"
 
 namespace uilfix {
 namespace {
 
-enum class Section { kNone, kControls, kArguments, kCallbacks };
+constexpr std::size_t kNone = std::string_view::npos;
 
-bool IsWordChar(char c) { return std::isalnum(static_cast<unsigned char>(c)) || c == '_'; }
+bool IsWordChar(char c) {
+  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_';
+}
+
+struct SectionLine {
+  std::string_view text;
+  Mark mark;
+};
+
+// The lines between the entries of a live object, as pandrel writes them.
+constexpr std::array<SectionLine, 6> kSectionLines = {{
+    {"\tcontrols {\n", Mark::kControls},
+    {"\targuments {\n", Mark::kArguments},
+    {"\tcallbacks {\n", Mark::kCallbacks},
+    {"\t\t};\n", Mark::kEnd},
+    {"\t};\n", Mark::kEnd},
+    {"};\n", Mark::kEnd},
+}};
+
+// The mark of a line in a commented object, or of one that fits no form.
+Mark MarkOfLine(std::string_view line) {
+  for (const SectionLine& row : kSectionLines) {
+    if (line.ends_with(row.text)) return row.mark;
+  }
+  return Mark::kNone;
+}
+
+// Whether the compiler reads nothing in a line: it is blank or a comment.
+bool IsSilent(std::string_view line) {
+  const std::size_t begin = line.find_first_not_of(" \t\n\r");
+  return begin == kNone || line[begin] == '!' || line.substr(begin, 2) == "/*";
+}
 
 class Parser {
  public:
-  explicit Parser(std::string_view text) : text_(text) {}
+  explicit Parser(std::string_view text) : cursor_(text), text_(text) {}
 
   Module Parse() {
     Module module;
-    while (pos_ < text_.size()) {
+    while (!cursor_.AtEnd()) {
       if (auto object = TakeObject()) {
+        definitions_ = Definitions::kObjects;
         module.items.emplace_back(std::move(*object));
       } else if (auto declaration = TakeDeclaration()) {
+        definitions_ = Definitions::kProcedures;
         module.items.emplace_back(std::move(*declaration));
+      } else if (auto item = TakeFreeDefinition(cursor_, definitions_)) {
+        if (auto* head = std::get_if<Object>(&*item)) TakeEntries(*head);
+        module.items.emplace_back(std::move(*item));
       } else {
-        module.items.emplace_back(TakeLine());
+        Verbatim line = TakeFreeLine(cursor_);
+        damaged_ |= definitions_ != Definitions::kOther && !IsSilent(line.text);
+        module.items.emplace_back(std::move(line));
       }
     }
+    module.damaged = damaged_;
     return module;
   }
 
  private:
-  std::string_view Rest() const { return text_.substr(pos_); }
-  bool At(std::string_view word) const { return Rest().starts_with(word); }
+  std::size_t Pos() const { return cursor_.Pos(); }
 
-  // Moves on by `count` bytes and returns them.
-  std::string Take(std::size_t count) {
-    std::string taken(text_.substr(pos_, count));
-    line_ += static_cast<int>(std::count(taken.begin(), taken.end(), '\n'));
-    pos_ += taken.size();
-    return taken;
+  std::size_t EndOfName(std::size_t pos) const {
+    while (pos < text_.size() && IsWordChar(text_[pos])) ++pos;
+    return pos;
   }
 
-  // The text up to `stop`, which is left out and passed over; nothing, and no move, without it.
-  std::optional<std::string> TakeUntil(std::string_view stop) {
-    const std::size_t end = text_.find(stop, pos_);
-    if (end == std::string_view::npos) return std::nullopt;
-    std::string taken = Take(end - pos_);
-    Take(stop.size());
-    return taken;
-  }
-
-  bool TakeWord(std::string_view word) {
-    if (!At(word)) return false;
-    Take(word.size());
-    return true;
-  }
-
-  std::string TakeName() {
-    std::size_t end = pos_;
-    while (end < text_.size() && IsWordChar(text_[end])) ++end;
-    return Take(end - pos_);
-  }
-
-  // The comment prefix, if any, and the blanks and tabs after it.
-  std::string TakeLead() {
-    std::size_t end = pos_;
-    if (At("!(ZO)")) {
+  // Where the comment prefix, if any, and the blanks and tabs after it end.
+  std::size_t EndOfLead() const {
+    std::size_t end = Pos();
+    if (cursor_.At("!(ZO)")) {
       end += 5;
-    } else if (At("!")) {
+    } else if (cursor_.At("!")) {
       end += 1;
     }
     while (end < text_.size() && (text_[end] == '\t' || text_[end] == ' ')) ++end;
-    return Take(end - pos_);
+    return end;
   }
 
-  Verbatim TakeLine() {
-    const std::size_t end = text_.find('\n', pos_);
-    return {Take(end == std::string_view::npos ? text_.size() - pos_ : end + 1 - pos_)};
-  }
+  std::string_view TakeLead() { return cursor_.TakeInLine(EndOfLead()); }
+  std::string_view TakeName() { return cursor_.TakeInLine(EndOfName(Pos())); }
 
   // Runs `take` and undoes its moves when it returns nothing.
   template <typename F>
   auto Try(F take) -> decltype(take()) {
-    const std::size_t pos = pos_;
-    const int line = line_;
+    const Cursor::Place place = cursor_.Here();
+    furthest_ = 0;
     auto result = take();
-    if (!result) {
-      pos_ = pos;
-      line_ = line;
-    }
+    if (!result) cursor_.Return(place, std::max(furthest_, Pos()));
     return result;
+  }
+
+  // A name and the ";" with a line end behind it, which is passed over. A name that was quoted in
+  // the GIL file begins with a quote and may hold anything, line ends included.
+  std::optional<std::string_view> TakeWholeName() {
+    const bool quoted = cursor_.Peek() == '"';
+    const std::size_t end = quoted ? Find(";\n") : EndOfPlainName();
+    if (end == kNone) return std::nullopt;
+    const std::string_view name = cursor_.TakeTo(end);
+    cursor_.TakeTo(end + 2);
+    return name;
+  }
+
+  // Where ";" and a line end follow a name without quotes.
+  std::size_t EndOfPlainName() {
+    std::size_t end = Pos();
+    constexpr std::string_view kStops = " \t\n;{}(,!";
+    while (end < text_.size() && kStops.find(text_[end]) == kNone) ++end;
+    furthest_ = std::max(furthest_, end);
+    return end > Pos() && text_.substr(end, 2) == ";\n" ? end : kNone;
+  }
+
+  std::size_t Find(std::string_view stop) {
+    if (!cursor_.HasBudget()) return kNone;
+    const std::size_t found = text_.find(stop, Pos());
+    if (found == kNone) furthest_ = text_.size();
+    return found;
   }
 
   std::optional<Declaration> TakeDeclaration() {
     return Try([&]() -> std::optional<Declaration> {
-      const int line = line_;
-      if (!TakeWord("procedure ")) return std::nullopt;
-      auto name = TakeUntil(";\n");
-      if (!name || name->find('(') != std::string::npos) return std::nullopt;
-      return Declaration{*name, line};
+      const int line = cursor_.Line();
+      if (!cursor_.TakeWord("procedure ")) return std::nullopt;
+      const auto name = TakeWholeName();
+      if (!name) return std::nullopt;
+      return Declaration{std::string(*name), line};
     });
   }
 
-  bool AtObject() const { return At("object\n") || At("!object\n") || At("!(ZO)object\n"); }
+  bool AtObject() const {
+    return cursor_.At("object\n") || cursor_.At("!object\n") || cursor_.At("!(ZO)object\n");
+  }
 
   std::optional<Object> TakeObject() {
     if (!AtObject()) return std::nullopt;
-    return Try([&]() -> std::optional<Object> {
-      Object object;
-      object.prefix = *TakeUntil("object\n");
-      if (!TakeWord(object.prefix)) return std::nullopt;
-      object.line = line_;
-      if (!TakeObjectHead(object)) return std::nullopt;
-      TakeEntries(object);
-      return object;
+    auto object = Try([&]() -> std::optional<Object> {
+      Object head;
+      const std::size_t keyword = text_.find("object\n", Pos());
+      head.prefix = cursor_.TakeTo(keyword);
+      cursor_.TakeTo(keyword + 7);
+      if (!cursor_.TakeWord(head.prefix)) return std::nullopt;
+      head.line = cursor_.Line();
+      if (!TakeObjectHead(head)) return std::nullopt;
+      return head;
     });
+    if (object) TakeEntries(*object);
+    return object;
   }
 
-  // "name:Class{". The name may hold anything, colons and line ends included, since a quoted GIL
-  // name is written as it stands; so the head ends at the first line that ends like one, and there
-  // is none when the object's first section begins before.
+  // "name:Class{". A quoted name may hold colons and line ends; so the head ends at the first line
+  // that ends like one, and there is none when the object's first section or the next object begins
+  // before.
   bool TakeObjectHead(Object& object) {
-    std::size_t end = pos_;
-    while ((end = text_.find("{\n", end)) != std::string_view::npos) {
-      const std::string_view head = text_.substr(pos_, end - pos_);
+    const bool quoted = cursor_.Peek() == '"';
+    std::size_t last = cursor_.EndOfLine(Pos());
+    if (quoted && cursor_.HasBudget()) last = std::min(text_.find("object\n", Pos()), text_.size());
+    furthest_ = last;
+    std::size_t end = Pos();
+    while ((end = text_.substr(0, last).find("{\n", end)) != kNone) {
+      const std::string_view head = text_.substr(Pos(), end - Pos());
       if (head.ends_with("\tcontrols ")) return false;
-      const std::size_t colon = head.rfind(':');
-      const std::string_view class_name =
-          colon == std::string_view::npos ? std::string_view() : head.substr(colon + 1);
-      if (!class_name.empty() && std::all_of(class_name.begin(), class_name.end(), IsWordChar)) {
+      const std::size_t colon = ColonOf(head);
+      const bool plain = quoted || head.find_first_of(" \t!;") == kNone;
+      if (colon != kNone && plain) {
         object.name = head.substr(0, colon);
-        object.class_name = class_name;
-        Take(head.size() + 2);
+        object.class_name = head.substr(colon + 1);
+        cursor_.TakeTo(end + 2);
         return true;
       }
       end += 2;
@@ -144,50 +192,82 @@ class Parser {
     return false;
   }
 
+  // The colon in front of the class that the head ends in.
+  static std::size_t ColonOf(std::string_view head) {
+    std::size_t colon = head.size();
+    while (colon > 0 && IsWordChar(head[colon - 1])) --colon;
+    const bool found = colon > 0 && colon < head.size() && head[colon - 1] == ':';
+    return found ? colon - 1 : kNone;
+  }
+
   void TakeEntries(Object& object) {
-    Section section = Section::kNone;
-    while (pos_ < text_.size() && !AtObject() && !At("end module")) {
+    entries_.clear();
+    GatherEntries(object);
+    object.entries.assign(std::make_move_iterator(entries_.begin()),
+                          std::make_move_iterator(entries_.end()));
+  }
+
+  void GatherEntries(const Object& object) {
+    Mark section = Mark::kNone;
+    while (!cursor_.AtEnd() && !AtObject() && !cursor_.At("end module")) {
       if (auto entry = TakeEntry(section)) {
-        object.entries.push_back(std::move(*entry));
+        entries_.push_back(std::move(*entry));
         continue;
       }
-      Verbatim line = TakeLine();
-      section = SectionAfter(line.text, section);
-      object.entries.emplace_back(std::move(line));
+      std::optional<Entry> piece = TakeSectionLine(object);
+      if (!piece && !object.IsComment()) piece = TakeFreeEntry(cursor_, section);
+      if (!piece) piece = TakeOddLine(object);
+      const auto* verbatim = std::get_if<Verbatim>(&*piece);
+      const Mark mark = verbatim ? verbatim->mark : Mark::kNone;
+      if (verbatim && mark == Mark::kNone) damaged_ |= !IsSilent(verbatim->text);
+      entries_.push_back(std::move(*piece));
+      if (mark == Mark::kEnd && section == Mark::kNone && !object.IsComment()) return;
+      if (mark != Mark::kNone) section = mark == Mark::kEnd ? Mark::kNone : mark;
     }
   }
 
-  static Section SectionAfter(const std::string& line, Section section) {
-    if (line.ends_with("\tcontrols {\n")) return Section::kControls;
-    if (line.ends_with("\targuments {\n")) return Section::kArguments;
-    if (line.ends_with("\tcallbacks {\n")) return Section::kCallbacks;
-    if (line.ends_with("};\n")) return Section::kNone;
-    return section;
-  }
-
-  std::optional<Entry> TakeEntry(Section section) {
-    switch (section) {
-      case Section::kControls:
-        return TakeControl();
-      case Section::kArguments:
-        return TakeArgument();
-      case Section::kCallbacks:
-        return TakeCallback();
-      case Section::kNone:
-        break;
+  // A line between the entries, as pandrel writes it.
+  std::optional<Entry> TakeSectionLine(const Object& object) {
+    if (object.IsComment()) return std::nullopt;
+    for (const SectionLine& row : kSectionLines) {
+      if (!cursor_.At(row.text)) continue;
+      const int line = cursor_.Line();
+      cursor_.TakeTo(Pos() + row.text.size());
+      return Verbatim{std::string(row.text), row.mark, line};
     }
     return std::nullopt;
+  }
+
+  Verbatim TakeOddLine(const Object& object) {
+    if (!object.IsComment()) return TakeFreeLine(cursor_);
+    Verbatim line{"", Mark::kNone, cursor_.Line()};
+    line.text = cursor_.TakeTo(cursor_.EndOfLine(Pos()));
+    line.mark = MarkOfLine(line.text);
+    return line;
+  }
+
+  std::optional<Entry> TakeEntry(Mark section) {
+    switch (section) {
+      case Mark::kControls:
+        return TakeControl();
+      case Mark::kArguments:
+        return TakeArgument();
+      case Mark::kCallbacks:
+        return TakeCallback();
+      default:
+        return std::nullopt;
+    }
   }
 
   std::optional<Entry> TakeControl() {
     return Try([&]() -> std::optional<Entry> {
       Control control;
-      control.line = line_;
+      control.line = cursor_.Line();
       control.lead = TakeLead();
-      control.unmanaged = TakeWord("unmanaged ");
+      control.unmanaged = cursor_.TakeWord("unmanaged ");
       control.class_name = TakeName();
-      if (control.class_name.empty() || !TakeWord(" ")) return std::nullopt;
-      auto name = TakeUntil(";\n");
+      if (control.class_name.empty() || !cursor_.TakeWord(" ")) return std::nullopt;
+      const auto name = TakeWholeName();
       if (!name) return std::nullopt;
       control.name = *name;
       return control;
@@ -197,11 +277,11 @@ class Parser {
   std::optional<Entry> TakeArgument() {
     return Try([&]() -> std::optional<Entry> {
       Argument argument;
-      argument.line = line_;
+      argument.line = cursor_.Line();
       argument.lead = TakeLead();
       argument.resource = TakeName();
-      if (argument.resource.empty() || !TakeWord(" = ")) return std::nullopt;
-      auto value = TakeValue(argument.resource);
+      if (argument.resource.empty() || !cursor_.TakeWord(" = ")) return std::nullopt;
+      const auto value = TakeValue(argument.resource);
       if (!value) return std::nullopt;
       argument.value = *value;
       return argument;
@@ -210,74 +290,101 @@ class Parser {
 
   // The value up to its ";" at a line end. Widget names stand for themselves, so a quote in one
   // means nothing; everywhere else a string literal may hold line ends and semicolons.
-  std::optional<std::string> TakeValue(const std::string& resource) {
-    if (IsWidgetReference(resource)) return TakeUntil(";\n");
-    for (std::size_t i = pos_; i < text_.size();) {
-      if (text_[i] == '"') {
-        i = LiteralEnd(text_, i);
-        if (i == std::string_view::npos) break;
-      } else if (text_.substr(i, 2) == ";\n") {
-        std::string value = Take(i - pos_);
-        Take(2);
+  std::optional<std::string_view> TakeValue(std::string_view resource) {
+    if (IsWidgetReference(resource)) return TakeWholeName();
+    std::size_t i = Pos();
+    while (i < text_.size()) {
+      const char c = text_[i];
+      if (c == '"') {
+        i = cursor_.HasBudget() ? LiteralEnd(text_, i) : kNone;
+        if (i == kNone) i = text_.size();
+      } else if (c == ';') {
+        if (text_.substr(i, 2) != ";\n") break;
+        const std::string_view value = cursor_.TakeTo(i);
+        cursor_.TakeTo(i + 2);
         return value;
+      } else if (c == '!' || c == '{' || c == '}' || c == '\'' || text_.substr(i, 2) == "/*") {
+        break;  // a comment, or another form
       } else {
         ++i;
       }
     }
+    furthest_ = i;
     return std::nullopt;
   }
 
   std::optional<Entry> TakeCallback() {
     return Try([&]() -> std::optional<Entry> {
       Callback callback;
-      callback.line = line_;
+      callback.line = cursor_.Line();
       callback.lead = TakeLead();
       callback.reason = TakeName();
       if (callback.reason.empty()) return std::nullopt;
-      if (TakeWord(" = procedures {\n")) {
+      if (cursor_.TakeWord(" = procedures {\n")) {
         callback.list = true;
         if (!TakeCalls(callback)) return std::nullopt;
         return callback;
       }
-      if (!TakeWord(" = procedure ")) return std::nullopt;
+      if (!cursor_.TakeWord(" = procedure ")) return std::nullopt;
       auto call = TakeCall();
       if (!call) return std::nullopt;
-      callback.calls.push_back(*call);
+      callback.calls.push_back(std::move(*call));
       return callback;
     });
   }
 
-  // The calls of a list and its closing line. Every call stands behind the same lead.
+  // The calls of a list and its closing line, each one tab further in than the list.
   bool TakeCalls(Callback& callback) {
     for (;;) {
-      std::string lead = TakeLead();
-      if (TakeWord("};\n")) {
-        callback.close_lead = lead;
-        return !callback.calls.empty();
-      }
-      if (callback.calls.empty()) callback.call_lead = lead;
-      if (lead != callback.call_lead) return false;
+      if (!cursor_.TakeWord(callback.lead) || !cursor_.TakeWord("\t")) return false;
+      if (cursor_.TakeWord("};\n")) return !callback.calls.empty();
       auto call = TakeCall();
       if (!call) return false;
-      callback.calls.push_back(*call);
+      callback.calls.push_back(std::move(*call));
     }
   }
 
   std::optional<Call> TakeCall() {
+    const std::size_t open = text_.substr(0, cursor_.EndOfLine(Pos())).find('(', Pos());
+    if (open == kNone) return std::nullopt;
     Call call;
-    call.line = line_;
-    auto procedure = TakeUntil("(");
-    if (!procedure || procedure->find('\n') != std::string::npos) return std::nullopt;
-    auto argument = TakeUntil(");\n");
-    if (!argument) return std::nullopt;
-    call.procedure = *procedure;
-    call.argument = *argument;
+    call.line = cursor_.Line();
+    call.procedure = cursor_.TakeInLine(open);
+    if (call.procedure[0] != '"' && call.procedure.find_first_of(" \t;!") != kNone) {
+      return std::nullopt;
+    }
+    cursor_.TakeInLine(open + 1);
+    const std::size_t close = Find(");\n");
+    if (close == kNone || !MayBeArgument(close)) return std::nullopt;
+    call.argument = cursor_.TakeTo(close);
+    cursor_.TakeTo(close + 3);
     return call;
   }
 
+  // Whether a call's argument may run up to `close`. It goes on in a further line only within a
+  // string, behind "&", or when all of it stands there; otherwise a comment ends the call's line.
+  bool MayBeArgument(std::size_t close) const {
+    const std::string_view all = text_.substr(Pos(), close - Pos());
+    const std::string_view line = all.substr(0, all.find('\n'));
+    if (line.size() == all.size() || line.empty()) return true;
+    if (line.ends_with('&') || line.starts_with("\"(WL)[\"")) return true;
+    bool open = false;
+    for (std::size_t i = 0; i < line.size(); ++i) {
+      if (line[i] == '\\') {
+        ++i;
+      } else if (line[i] == '"') {
+        open = !open;
+      }
+    }
+    return open;
+  }
+
+  Cursor cursor_;
   std::string_view text_;
-  std::size_t pos_ = 0;
-  int line_ = 1;
+  std::vector<Entry> entries_;  // of the object that is being read
+  bool damaged_ = false;
+  Definitions definitions_ = Definitions::kOther;
+  std::size_t furthest_ = 0;  // how far the form that is being tried was looked for
 };
 
 }  // namespace

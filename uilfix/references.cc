@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <array>
 
+#include "uilfix/literals.h"
+
 namespace uilfix {
 namespace {
 
@@ -33,6 +35,8 @@ std::optional<Target> CallTarget(const Call& call) {
     if (end == std::string::npos || end < begin) return std::nullopt;
   }
   if (begin == end) return std::nullopt;
+  std::string whole;
+  if (text.find("\\\"") != std::string::npos && PlainString(text, &whole)) return std::nullopt;
   return Target{text.substr(0, begin), text.substr(begin, end - begin), text.substr(end)};
 }
 
@@ -61,23 +65,18 @@ void References::ResolveControls() {
       children_[*it] = child;
       names_[child].push_back(&(*it)->name);
     }
-    unclaimed_.push_back(object);
+    unclaimed_[object->name + '\n' + object->class_name].push_back(object);
   }
 }
 
 // The object that a controls line means. A menu that two parents share is claimed already when the
 // second names it.
 Object* References::Claim(const Control& control) {
-  const auto fits = [&](const Object* object) {
-    return object->name == control.name && object->class_name == control.class_name;
-  };
-  const auto found = std::find_if(unclaimed_.rbegin(), unclaimed_.rend(), fits);
-  if (found != unclaimed_.rend()) {
-    Object* object = *found;
-    unclaimed_.erase(std::next(found).base());
-    return object;
-  }
-  return Find(control.name);
+  const auto found = unclaimed_.find(control.name + '\n' + control.class_name);
+  if (found == unclaimed_.end() || found->second.empty()) return Find(control.name);
+  Object* object = found->second.back();
+  found->second.pop_back();
+  return object;
 }
 
 // Resources whose value is a widget's name. The button that a menu shows first is one of its own
@@ -101,8 +100,8 @@ void References::ResolveCalls(Object& object) {
   ForEachEntry<Callback>(object, [&](Callback& callback) {
     for (Call& call : callback.calls) {
       const auto target = CallTarget(call);
-      if (!target) continue;
-      if (Object* named = Find(target->name)) calls_[named].push_back(&call);
+      Object* named = target ? Find(target->name) : nullptr;
+      if (named) calls_[named].push_back(&call);
     }
   });
 }

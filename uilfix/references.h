@@ -25,7 +25,8 @@ struct Target {
   std::string Text() const { return before + name + after; }
 };
 
-// The target that `call` names; nothing when its procedure takes none or its argument is empty.
+// The target that `call` names; nothing when its procedure takes none, or when its argument is
+// empty or a string with quotes in it, which is a label and not a name.
 std::optional<Target> CallTarget(const Call& call);
 
 class References {
@@ -47,7 +48,8 @@ class References {
   Object* Claim(const Control& control);
 
   std::vector<Object*> objects_;
-  std::vector<Object*> unclaimed_;  // defined so far and not yet in a controls list
+  // By name and class: those defined so far and not yet in a controls list.
+  std::unordered_map<std::string, std::vector<Object*>> unclaimed_;
   std::unordered_map<std::string, Object*> by_name_;
   std::unordered_map<const Control*, Object*> children_;  // the object that each line controls
   std::unordered_map<Object*, std::vector<std::string*>> names_;  // whole texts that are the name

@@ -1,73 +1,84 @@
 // SPDX-License-Identifier: MIT
-// Enable and Disable name their target as the GIL file does, and the module names it otherwise:
-// with its first letter lowered, cut to 30 characters, its last digit turned into a letter (0 to A,
-// 1 to B ...) or a number added because the name was taken or reserved. The run-time library would
-// find no such widget.
-#include <cctype>
-#include <optional>
-#include <vector>
+// Enable and Disable name their target as the GIL file does, and the module names it otherwise: the
+// name changed its form, or the file named a menu's item by its label. The run-time library would
+// find no such widget, and the compiler refuses the quotes of a label.
+#include <memory>
 
+#include "uilfix/literals.h"
 #include "uilfix/references.h"
 #include "uilfix/rewrites.h"
+#include "uilfix/widget_finder.h"
 
 namespace uilfix {
 namespace {
 
-constexpr std::size_t kCutLength = 30;
-
-std::string LowerFirst(std::string name) {
-  if (!name.empty()) name[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(name[0])));
-  return name;
+// The bytes of a label that stands for a name, quotes included; false for any other name.
+bool LabelOf(const std::string& name, std::string* label) {
+  if (LiteralEnd(name, 0) != name.size() || name[0] != '"') return false;
+  *label = LiteralBytes(std::string_view(name).substr(1, name.size() - 2));
+  return true;
 }
 
-// The last digit as the letter that builder 2.5 puts for it; a 9 stays.
-std::string LetterForDigit(std::string name) {
-  if (!name.empty() && name.back() >= '0' && name.back() <= '8') name.back() += 'A' - '0';
-  return name;
-}
-
-// Whether `name` is `base` with a number added, the last digit of which may be a letter.
-bool IsNumbered(const std::string& name, const std::string& base) {
-  if (name.size() <= base.size() || !name.starts_with(base)) return false;
-  for (std::size_t i = base.size(); i + 1 < name.size(); ++i) {
-    if (!std::isdigit(static_cast<unsigned char>(name[i]))) return false;
+std::string EscapeQuotes(std::string_view name) {
+  std::string escaped;
+  while (!name.empty()) {
+    const std::string_view character = TakeCharacter(name);
+    if (character == "\"") escaped += '\\';
+    escaped += character;
   }
-  return std::isdigit(static_cast<unsigned char>(name.back())) ||
-         (name.back() >= 'A' && name.back() <= 'I');
+  return escaped;
 }
 
-// The widget that a GIL name means: the first that has one of its plain forms, else the only one
-// that has a numbered form.
-std::optional<std::string> FindWidget(const Module& module, const References& references,
-                                      const std::string& gil_name) {
-  const std::string lowered = LowerFirst(gil_name);
-  const std::string cut = lowered.substr(0, kCutLength);
-  for (const std::string& form : {lowered, LetterForDigit(lowered), cut, LetterForDigit(cut)}) {
-    if (references.Find(form)) return form;
+class Arguments {
+ public:
+  Arguments(const Module& module, Report& report) : finder_(module), report_(report) {}
+
+  void Mend(Call& call, const Object& object) {
+    auto target = CallTarget(call);
+    if (!target || finder_.Named(target->name)) return;
+    const std::string where = call.procedure + " in " + object.name;
+    std::string label;
+    std::string whole;
+    if (const Object* found = finder_.ByGilName(target->name)) {
+      Point(call, *target, *found, where, "");
+    } else if (LabelOf(target->name, &label) && !finder_.ByLabel(label).empty()) {
+      const auto labelled = finder_.ByLabel(label);
+      const std::string which =
+          labelled.size() > 1 ? ", the first of " + std::to_string(labelled.size()) + " so labelled"
+                              : "";
+      Point(call, *target, *labelled.front(), where, which);
+    } else if (!PlainString(call.argument, &whole)) {
+      const std::string name = target->name;
+      target->name = EscapeQuotes(name);
+      if (!PlainString(target->Text(), &whole)) return;
+      call.argument = target->Text();
+      report_.Add(call.line, where + ": no widget has the label " + name + ", quotes escaped");
+    }
   }
-  std::vector<std::string> numbered;
-  ForEachObject(module, [&](const Object& object) {
-    if (IsNumbered(object.name, cut)) numbered.push_back(object.name);
-  });
-  if (numbered.size() != 1) return std::nullopt;
-  return numbered.front();
-}
+
+ private:
+  void Point(Call& call, Target& target, const Object& found, const std::string& where,
+             const std::string& which) {
+    report_.Add(call.line,
+                where + " now names " + found.name + " instead of " + target.name + which);
+    target.name = found.name;
+    call.argument = target.Text();
+  }
+
+  WidgetFinder finder_;
+  Report& report_;
+};
 
 }  // namespace
 
 void FixArguments(Module& module, Report& report) {
-  const References references(module);
+  std::unique_ptr<Arguments> arguments;  // made for the first call that names a widget
   ForEachObject(module, [&](Object& object) {
     ForEachEntry<Callback>(object, [&](Callback& callback) {
       for (Call& call : callback.calls) {
-        auto target = CallTarget(call);
-        if (!target || references.Find(target->name)) continue;
-        const auto found = FindWidget(module, references, target->name);
-        if (!found) continue;
-        report.Add(call.line, call.procedure + " in " + object.name + " now names " + *found +
-                                  " instead of " + target->name);
-        target->name = *found;
-        call.argument = target->Text();
+        if (!CallTarget(call)) continue;
+        if (!arguments) arguments = std::make_unique<Arguments>(module, report);
+        arguments->Mend(call, object);
       }
     });
   });

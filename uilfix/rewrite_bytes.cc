@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Bytes that the compiler calls unprintable, in comments too: control characters, and the upper
 // half up to 0x9F.
+#include <algorithm>
+
 #include "uilfix/literals.h"
 #include "uilfix/rewrites.h"
 #include "uilfix/values.h"
@@ -15,9 +17,14 @@ bool IsRefused(unsigned char byte) {
 
 std::string WriteBytes(std::string_view inside) {
   std::string written;
-  for (const std::string& character : SplitCharacters(inside)) {
+  while (!inside.empty()) {
+    const std::string_view character = TakeCharacter(inside);
     const auto byte = static_cast<unsigned char>(character[0]);
-    written += IsRefused(byte) ? NumericEscape(byte) : character;
+    if (IsRefused(byte)) {
+      written += NumericEscape(byte);
+    } else {
+      written += character;
+    }
   }
   return written;
 }
@@ -26,8 +33,11 @@ std::string WriteBytes(std::string_view inside) {
 
 void FixBytes(Module& module, Report& report) {
   ForEachValue(module, [&](const ValuePlace& place) {
-    if (ChangeLiterals(place.value, WriteBytes)) {
-      report.Add(place.line, place.what + ": unprintable bytes written as numbers");
+    const bool refused = std::any_of(place.value.begin(), place.value.end(), [](char c) {
+      return IsRefused(static_cast<unsigned char>(c));
+    });
+    if (refused && ChangeLiterals(place.value, WriteBytes)) {
+      report.Add(place.line, place.What() + ": unprintable bytes written as numbers");
     }
   });
 }

@@ -6,6 +6,7 @@
 #include <array>
 
 #include "uilfix/rewrites.h"
+#include "uilfix/selection_reason.h"
 
 namespace uilfix {
 namespace {
@@ -25,12 +26,13 @@ struct ClassReason {
   std::string_view reason;
 };
 
-// What a GIL Notify becomes. A drawing area is missing: its repaint, resize and input procedures
-// cannot be told apart.
+// What a GIL Notify becomes; that of a list goes by its selection policy. A drawing area is
+// missing: its repaint, resize and input procedures cannot be told apart.
 constexpr ClassReason kClassReasons[] = {
-    {"XmPushButton", "XmNactivateCallback"},  {"XmText", "XmNactivateCallback"},
-    {"XmTextField", "XmNactivateCallback"},   {"XmScale", "XmNvalueChangedCallback"},
-    {"XmList", "XmNsingleSelectionCallback"},
+    {"XmPushButton", "XmNactivateCallback"},
+    {"XmText", "XmNactivateCallback"},
+    {"XmTextField", "XmNactivateCallback"},
+    {"XmScale", "XmNvalueChangedCallback"},
 };
 
 // The reason that belongs to a procedure of the run-time library; empty for any other procedure.
@@ -51,22 +53,35 @@ bool IsOwnReason(std::string_view reason) {
 // The reason for the ordinary procedures of a list; empty when it cannot be known.
 std::string_view OrdinaryReason(const Object& object, const Callback& callback) {
   if (!IsOwnReason(callback.reason)) return callback.reason;
+  if (object.class_name == "XmList") return SelectionReason(object);
   for (const ClassReason& row : kClassReasons) {
     if (row.class_name == object.class_name) return row.reason;
   }
   return {};
 }
 
+// An entry for `reason`, its calls in pandrel's layout: they get lines of their own, as far in as
+// the entry they came from.
 Callback& EntryFor(std::vector<Callback>& callbacks, std::string_view reason,
                    const Callback& model) {
   for (Callback& callback : callbacks) {
     if (callback.reason == reason) return callback;
   }
-  Callback callback = model;
+  Callback callback;
+  callback.lead = model.lead;
   callback.reason = reason;
-  callback.calls.clear();
-  callbacks.push_back(callback);
+  callback.line = model.line;
+  callbacks.push_back(std::move(callback));
   return callbacks.back();
+}
+
+// Whether another entry of the object has this reason; two of them would not both be called.
+bool IsTaken(const Object& object, const Callback& list, std::string_view reason) {
+  bool taken = false;
+  ForEachEntry<Callback>(object, [&](const Callback& callback) {
+    taken |= &callback != &list && callback.reason == reason;
+  });
+  return taken;
 }
 
 // One entry per reason, in the order of the calls. Empty when the list can stay as it is.
@@ -76,9 +91,14 @@ std::vector<Callback> SplitList(const Object& object, const Callback& list) {
   std::vector<Callback> split;
   for (const Call& call : list.calls) {
     const std::string_view own = ReasonOfProcedure(call.procedure);
-    EntryFor(split, own.empty() ? ordinary : own, list).calls.push_back(call);
+    Call moved = call;
+    moved.layout = nullptr;
+    EntryFor(split, own.empty() ? ordinary : own, list).calls.push_back(std::move(moved));
   }
   if (split.size() == 1 && split[0].reason == list.reason) return {};
+  for (const Callback& callback : split) {
+    if (IsTaken(object, list, callback.reason)) return {};
+  }
   for (Callback& callback : split) callback.list = callback.calls.size() > 1;
   return split;
 }
@@ -88,20 +108,18 @@ std::vector<Callback> SplitList(const Object& object, const Callback& list) {
 void FixCallbacks(Module& module, Report& report) {
   ForEachObject(module, [&](Object& object) {
     if (object.IsComment()) return;
-    std::vector<Entry> entries;
-    for (Entry& entry : object.entries) {
-      const auto* callback = std::get_if<Callback>(&entry);
-      const auto split =
-          callback && callback->list ? SplitList(object, *callback) : std::vector<Callback>();
-      if (split.empty()) {
-        entries.push_back(std::move(entry));
-        continue;
-      }
+    for (std::size_t i = 0; i < object.entries.size(); ++i) {
+      const auto* callback = std::get_if<Callback>(&object.entries[i]);
+      if (!callback || !callback->list || IsCommented(callback->lead)) continue;
+      const std::vector<Callback> split = SplitList(object, *callback);
+      if (split.empty()) continue;
       report.Add(callback->line, callback->reason + " of " + object.name + " is now " +
                                      std::to_string(split.size()) + " callbacks");
-      entries.insert(entries.end(), split.begin(), split.end());
+      object.entries[i] = split.front();
+      object.entries.insert(object.entries.begin() + static_cast<std::ptrdiff_t>(i) + 1,
+                            split.begin() + 1, split.end());
+      i += split.size() - 1;
     }
-    object.entries = std::move(entries);
   });
 }
 

@@ -2,6 +2,7 @@
 // Texts in UTF-8. The compiler refuses the bytes 0x80 to 0x9F, and Motif's default fonts draw one
 // character per byte, so even a text that compiles shows as two letters for one. Latin-1 is what
 // both take.
+#include <algorithm>
 #include <cstdint>
 #include <optional>
 
@@ -28,7 +29,7 @@ constexpr Substitute kSubstitutes[] = {
 };
 
 // Takes one UTF-8 character of two to four bytes off `text`; nothing when there is none.
-std::optional<std::uint32_t> TakeCharacter(std::string_view& text) {
+std::optional<std::uint32_t> TakeCodePoint(std::string_view& text) {
   const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
   const std::size_t length = byte(0) >= 0xF0 ? 4 : byte(0) >= 0xE0 ? 3 : byte(0) >= 0xC2 ? 2 : 0;
   if (length == 0 || byte(0) > 0xF4 || text.size() < length) return std::nullopt;
@@ -49,28 +50,56 @@ std::string LatinText(std::uint32_t code) {
   return "?";
 }
 
-// `inside` in Latin-1; unchanged when it is plain ASCII or not UTF-8 throughout.
-std::string ToLatin(std::string_view inside) {
+// A text in Latin-1; nothing when it is plain ASCII or not UTF-8 throughout.
+std::optional<std::string> ToLatin(std::string_view text) {
   std::string latin;
-  for (std::string_view rest = inside; !rest.empty();) {
-    if (static_cast<unsigned char>(rest[0]) < 0x80) {
-      latin += rest[0];
-      rest.remove_prefix(1);
+  bool ascii = true;
+  while (!text.empty()) {
+    if (static_cast<unsigned char>(text[0]) < 0x80) {
+      latin += text[0];
+      text.remove_prefix(1);
       continue;
     }
-    const auto code = TakeCharacter(rest);
-    if (!code) return std::string(inside);
+    const auto code = TakeCodePoint(text);
+    if (!code) return std::nullopt;
     latin += LatinText(*code);
+    ascii = false;
   }
+  if (ascii) return std::nullopt;
   return latin;
+}
+
+// Writes the literals of a value in Latin-1. They are looked at together, since they may be parts
+// of one text: the part of another encoding's text may look like UTF-8. What was encoded twice is
+// UTF-8 still after the first time. Returns whether anything changed.
+bool ChangeEncoding(std::string& value) {
+  std::vector<ValuePart> parts = SplitValue(value);
+  bool changed = false;
+  for (bool again = true; again;) {
+    again = false;
+    std::string whole;
+    for (const ValuePart& part : parts) whole += part.literal ? part.text : "";
+    // A byte that is written as a number counts as well: as such it is no UTF-8.
+    if (!ToLatin(LiteralBytes(whole))) break;
+    for (ValuePart& part : parts) {
+      auto latin = part.literal ? ToLatin(part.text) : std::nullopt;
+      if (!latin) continue;
+      part.text = std::move(*latin);
+      again = changed = true;
+    }
+  }
+  if (changed) value = JoinValue(parts);
+  return changed;
 }
 
 }  // namespace
 
 void FixEncoding(Module& module, Report& report) {
   ForEachValue(module, [&](const ValuePlace& place) {
-    if (ChangeLiterals(place.value, ToLatin)) {
-      report.Add(place.line, place.what + ": UTF-8 written as Latin-1");
+    const bool ascii = std::none_of(place.value.begin(), place.value.end(),
+                                    [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
+    if (!ascii && ChangeEncoding(place.value)) {
+      report.Add(place.line, place.What() + ": UTF-8 written as Latin-1");
     }
   });
 }

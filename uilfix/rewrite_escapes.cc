@@ -83,9 +83,9 @@ std::string MendEscapes(std::string_view inside) {
 
 void FixEscapes(Module& module, Report& report) {
   ForEachValue(module, [&](const ValuePlace& place) {
-    if (place.comment) return;
+    if (place.comment || place.value.find('\\') == std::string::npos) return;
     if (ChangeLiterals(place.value, MendEscapes)) {
-      report.Add(place.line, place.what + ": C escapes written as UIL has them");
+      report.Add(place.line, place.What() + ": C escapes written as UIL has them");
     }
   });
 }

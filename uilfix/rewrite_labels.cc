@@ -7,33 +7,47 @@
 namespace uilfix {
 namespace {
 
-// The lines of a literal's inside, cut at each \n escape.
-std::vector<std::string> SplitLines(std::string_view inside) {
-  std::vector<std::string> lines(1);
-  for (const std::string& character : SplitCharacters(inside)) {
-    if (character == "\\n") {
-      lines.emplace_back();
-    } else {
-      lines.back() += character;
-    }
+// The compiler gives up on expressions not much longer than this.
+constexpr std::size_t kMostLines = 10000;
+
+// The lines of a literal's inside, cut at each \n escape. Empty when it is one line, or more than
+// the compiler takes.
+std::vector<std::string_view> SplitLines(std::string_view inside) {
+  std::vector<std::string_view> lines;
+  if (inside.find("\\n") == std::string_view::npos) return lines;
+  std::string_view rest = inside;
+  while (!rest.empty() && lines.size() < kMostLines) {
+    const std::size_t end = inside.size() - rest.size();
+    if (TakeCharacter(rest) != "\\n") continue;
+    const std::size_t begin =
+        lines.empty() ? 0 : lines.back().data() + lines.back().size() + 2 - inside.data();
+    lines.push_back(inside.substr(begin, end - begin));
   }
+  if (lines.empty() || lines.size() == kMostLines) return {};
+  const char* last = lines.back().data() + lines.back().size() + 2;
+  lines.push_back(inside.substr(static_cast<std::size_t>(last - inside.data())));
   return lines;
 }
 
 // The expression for a label of these lines.
-std::string CompoundString(const std::vector<std::string>& lines) {
+std::string CompoundString(const std::vector<std::string_view>& lines) {
   std::string value;
   for (std::size_t i = 0; i + 1 < lines.size(); ++i) {
-    value += "compound_string(\"" + lines[i] + "\", separate=true) & ";
+    value += "compound_string(\"";
+    value += lines[i];
+    value += "\", separate=true) & ";
   }
-  return value + '"' + lines.back() + '"';
+  value += '"';
+  value += lines.back();
+  return value + '"';
 }
 
 void MendLabel(Argument& argument, const Object& object, Report& report) {
   std::string inside;
+  if (argument.value.find("\\n") == std::string::npos) return;
   if (!PlainString(argument.value, &inside)) return;
-  const std::vector<std::string> lines = SplitLines(inside);
-  if (lines.size() < 2) return;
+  const std::vector<std::string_view> lines = SplitLines(inside);
+  if (lines.empty()) return;
   argument.value = CompoundString(lines);
   report.Add(argument.line, argument.resource + " of " + object.name + ": " +
                                 std::to_string(lines.size()) + " lines in a compound string");
@@ -42,6 +56,7 @@ void MendLabel(Argument& argument, const Object& object, Report& report) {
 // The items of a list are compound strings as well. An item that is an expression already is left.
 void MendItems(Argument& argument, const Object& object, Report& report) {
   if (!argument.value.starts_with("string_table(")) return;
+  if (argument.value.find("\\n") == std::string::npos) return;
   std::vector<ValuePart> parts = SplitValue(argument.value);
   bool changed = false;
   for (std::size_t i = 1; i + 1 < parts.size(); ++i) {
@@ -53,7 +68,7 @@ void MendItems(Argument& argument, const Object& object, Report& report) {
     if (before.ends_with("compound_string(")) continue;
     const auto lines =
         SplitLines(std::string_view(parts[i].text).substr(1, parts[i].text.size() - 2));
-    if (lines.size() < 2) continue;
+    if (lines.empty()) continue;
     parts[i].text = CompoundString(lines);
     changed = true;
   }
@@ -70,7 +85,9 @@ void FixLabels(Module& module, Report& report) {
     if (object.IsComment()) return;
     ForEachEntry<Argument>(object, [&](Argument& argument) {
       if (argument.resource == "XmNlabelString") MendLabel(argument, object, report);
-      if (argument.resource == "XmNitems") MendItems(argument, object, report);
+      if (argument.resource == "XmNitems" || argument.resource == "XmNselectedItems") {
+        MendItems(argument, object, report);
+      }
     });
   });
 }

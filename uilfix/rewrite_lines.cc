@@ -1,138 +1,162 @@
 // SPDX-License-Identifier: MIT
-// The compiler takes lines of 130 bytes, in comments too. A string is carried on in the next line
-// by "&"; one that stands further back in its value goes to a line of its own first.
-#include <algorithm>
-
-#include "uilfix/literals.h"
+// The compiler takes lines of 130 bytes, in comments too. What is longer is broken; see
+// line_breaker.h for how. Nothing runs after this: a broken entry is left as bare text.
+#include "uilfix/line_breaker.h"
 #include "uilfix/rewrites.h"
 
 namespace uilfix {
 namespace {
 
-constexpr std::size_t kMaxLine = 130;
+// A part of a record's layout; `usual` is what pandrel writes there.
+std::string_view Part(const LayoutPtr& layout, std::string Layout::*part, std::string_view usual) {
+  return layout ? std::string_view((*layout).*part) : usual;
+}
 
-// The text of a value, with breaks put in so that no line is too long.
-class LineBreaker {
+// Goes over the module's text with the column at which each piece begins: in the free layout
+// several share a line.
+class LineMender {
  public:
-  // `column` is where the value begins on its line; `lead` begins each line that a break makes.
-  LineBreaker(std::size_t column, std::string lead) : column_(column), lead_(std::move(lead)) {}
+  explicit LineMender(Report& report) : report_(report) {}
 
-  // `tail` is what follows the value on its last line.
-  std::string Break(const std::string& value, std::string_view tail) {
-    const std::vector<ValuePart> parts = SplitValue(value);
-    for (std::size_t i = 0; i < parts.size(); ++i) {
-      if (!parts[i].literal) {
-        Append(parts[i].text);
-        continue;
-      }
-      std::string after = i + 1 < parts.size() ? parts[i + 1].text : "";
-      if (i + 2 >= parts.size()) after += tail;
-      AppendLiteral(parts[i].text, std::min(after.find('\n'), after.size()));
+  void Mend(Item& item) {
+    if (auto* object = std::get_if<Object>(&item)) {
+      MendObject(*object);
+    } else if (auto* verbatim = std::get_if<Verbatim>(&item)) {
+      MendText(*verbatim, "");
+    } else {
+      Pass(std::get<Declaration>(item).layout);
     }
-    return text_;
   }
 
  private:
-  void Append(const std::string& text) {
-    text_ += text;
-    const std::size_t newline = text.rfind('\n');
-    column_ = newline == std::string::npos ? column_ + text.size() : text.size() - newline - 1;
+  // The texts of heads and declarations are short, but for a name that no break can help.
+  void Pass(const LayoutPtr& layout) {
+    column_ = layout ? ColumnBehind(layout->tail, column_ + layout->head.size()) : 0;
   }
 
-  void NewLine() {
-    while (text_.ends_with(' ')) text_.pop_back();
-    text_ += '\n' + lead_;
-    column_ = lead_.size();
-  }
-
-  // `after` bytes must fit behind the literal.
-  void AppendLiteral(const std::string& literal, std::size_t after) {
-    if (column_ + literal.size() + after <= kMaxLine) return Append(literal);
-    if (!text_.empty() && column_ > lead_.size()) NewLine();
-    if (column_ + literal.size() + after <= kMaxLine) return Append(literal);
-    CutLiteral(literal.substr(1, literal.size() - 2), after);
-  }
-
-  // Cuts behind the last blank that fits, or where the room ends when there is none.
-  void CutLiteral(const std::string& inside, std::size_t after) {
-    const std::vector<std::string> characters = SplitCharacters(inside);
-    std::size_t begin = 0;
-    while (begin < characters.size()) {
-      const std::size_t room = kMaxLine - column_ - 2;  // for what stands between the quotes
-      std::size_t end = begin;
-      std::size_t blank = begin;
-      std::size_t size = 0;
-      while (end < characters.size() && size + characters[end].size() + 2 <= room) {
-        size += characters[end++].size();
-        if (characters[end - 1] == " ") blank = end;
+  void MendObject(Object& object) {
+    Pass(object.layout);
+    for (Entry& entry : object.entries) {
+      const std::size_t size = EntrySize(entry);
+      if (column_ + size <= kMaxLine && EndsLine(entry)) {
+        column_ = 0;
+      } else {
+        MendEntry(entry, object);
       }
-      const bool last = end == characters.size() && size + after <= room;
-      if (!last) end = blank > begin ? blank : end;
-      std::string piece = "\"";
-      for (; begin < end; ++begin) piece += characters[begin];
-      Append(piece + '"');
-      if (last) break;
-      Append(" &");
-      NewLine();
-      if (begin == characters.size()) Append("\"\"");
     }
   }
 
-  std::size_t column_;
-  std::string lead_;
-  std::string text_;
+  static bool EndsLine(const Entry& entry) {
+    if (const auto* verbatim = std::get_if<Verbatim>(&entry)) return verbatim->text.ends_with('\n');
+    const auto* argument = std::get_if<Argument>(&entry);
+    const auto* control = std::get_if<Control>(&entry);
+    const LayoutPtr* layout = argument ? &argument->layout : control ? &control->layout : nullptr;
+    return layout && !*layout;
+  }
+
+  void MendEntry(Entry& entry, const Object& object) {
+    const std::string text = RenderEntry(entry);
+    if (!HasLongLine(text, column_)) {
+      column_ = ColumnBehind(text, column_);
+      return;
+    }
+    if (auto* verbatim = std::get_if<Verbatim>(&entry)) return MendText(*verbatim, object.name);
+    int line = 0;
+    std::string what;
+    LineBreaker breaker(column_, "");
+    if (const auto* argument = std::get_if<Argument>(&entry)) {
+      breaker = BreakerFor(argument->lead);
+      Break(*argument, text, breaker);
+      line = argument->line;
+      what = argument->resource;
+    } else if (const auto* callback = std::get_if<Callback>(&entry)) {
+      breaker = BreakerFor(callback->lead + (callback->list ? "\t" : ""));
+      Break(*callback, text, breaker);
+      line = callback->line;
+      what = callback->reason;
+    } else if (const auto* control = std::get_if<Control>(&entry)) {
+      breaker = BreakerFor(control->lead);
+      breaker.AppendFree(text);
+      line = control->line;
+      what = control->name;
+    }
+    column_ = breaker.Column();
+    if (breaker.Text() == text) return;
+    report_.Add(line, what + " of " + object.name + ": line over 130 bytes broken");
+    entry = Verbatim{breaker.Text(), Mark::kNone, line};
+  }
+
+  // Lines that a break makes begin like the entry's own, one tab further in.
+  LineBreaker BreakerFor(const std::string& lead) const {
+    const std::size_t begin = lead.rfind('\n') == std::string::npos ? 0 : lead.rfind('\n') + 1;
+    std::string own = lead.substr(begin);
+    const bool own_line = begin > 0 || column_ == 0;
+    const bool words = own.find_first_not_of("!(ZO) \t") != std::string::npos;
+    if (!own_line || words || own.size() > kMaxLine / 2) own = "\t\t";
+    return LineBreaker(column_, own + '\t');
+  }
+
+  void Break(const Argument& argument, std::string_view text, LineBreaker& breaker) const {
+    text.remove_prefix(argument.lead.size());
+    breaker.AppendFree(argument.lead);
+    if (column_ > 0) breaker.MakeRoom(std::min(text.find('\n'), text.size()));
+    breaker.Append(argument.resource);
+    breaker.AppendFree(Part(argument.layout, &Layout::middle, " = "));
+    const std::string_view tail = Part(argument.layout, &Layout::tail, ";\n");
+    breaker.AppendValue(argument.value, tail);
+    // A ";" alone on its line would not be pandrel's layout any more, which commented lines must
+    // be.
+    argument.layout ? breaker.AppendFree(tail) : breaker.Append(tail);
+  }
+
+  void Break(const Callback& callback, std::string_view text, LineBreaker& breaker) const {
+    text.remove_prefix(callback.lead.size());
+    breaker.AppendFree(callback.lead);
+    if (column_ > 0) breaker.MakeRoom(std::min(text.find('\n'), text.size()));
+    breaker.Append(callback.reason);
+    breaker.AppendFree(Part(callback.layout, &Layout::middle,
+                            callback.list ? " = procedures {\n" : " = procedure "));
+    for (const Call& call : callback.calls) {
+      if (call.layout) {
+        breaker.AppendFree(call.layout->head);
+      } else if (callback.list) {
+        breaker.Append(callback.lead + '\t');
+      }
+      breaker.Append(call.procedure);
+      breaker.AppendFree(Part(call.layout, &Layout::middle, "("));
+      const std::string_view tail = Part(call.layout, &Layout::tail, ");\n");
+      breaker.AppendValue(call.argument, tail);
+      call.layout ? breaker.AppendFree(tail) : breaker.Append(tail);
+    }
+    if (callback.list) {
+      breaker.AppendFree(Part(callback.layout, &Layout::head, callback.lead + '\t'));
+    }
+    breaker.AppendFree(Part(callback.layout, &Layout::tail, callback.list ? "};\n" : ""));
+  }
+
+  void MendText(Verbatim& verbatim, const std::string& object) {
+    if (!HasLongLine(verbatim.text, column_)) {
+      column_ = ColumnBehind(verbatim.text, column_);
+      return;
+    }
+    LineBreaker breaker(column_, "\t");
+    breaker.AppendFree(verbatim.text, verbatim.mark != Mark::kNone);
+    column_ = breaker.Column();
+    if (breaker.Text() == verbatim.text) return;
+    verbatim.text = breaker.Text();
+    report_.Add(verbatim.line, object.empty() ? "line over 130 bytes broken"
+                                              : "line over 130 bytes in " + object + " broken");
+  }
+
+  Report& report_;
+  std::size_t column_ = 0;
 };
-
-bool HasLongLine(const std::string& text) {
-  std::size_t begin = 0;
-  while (begin < text.size()) {
-    std::size_t end = text.find('\n', begin);
-    if (end == std::string::npos) end = text.size();
-    if (end - begin > kMaxLine) return true;
-    begin = end + 1;
-  }
-  return false;
-}
-
-void BreakArgument(Argument& argument) {
-  const std::size_t column = argument.lead.size() + argument.resource.size() + 3;
-  argument.value = LineBreaker(column, argument.lead + "\t").Break(argument.value, ";");
-}
-
-void BreakCalls(Callback& callback) {
-  const std::string& lead = callback.list ? callback.call_lead : callback.lead;
-  const std::size_t head =
-      callback.list ? lead.size() : lead.size() + callback.reason.size() + 13;  // " = procedure "
-  for (Call& call : callback.calls) {
-    const std::size_t column = head + call.procedure.size() + 1;
-    if (column + call.argument.size() + 2 <= kMaxLine) continue;
-    call.argument = LineBreaker(column, lead + "\t").Break(call.argument, ");");
-  }
-}
 
 }  // namespace
 
 void FixLines(Module& module, Report& report) {
-  ForEachObject(module, [&](Object& object) {
-    for (Entry& entry : object.entries) {
-      if (!HasLongLine(RenderEntry(entry))) continue;
-      int line = 0;
-      std::string what;
-      const std::string before = RenderEntry(entry);
-      if (auto* argument = std::get_if<Argument>(&entry)) {
-        BreakArgument(*argument);
-        line = argument->line;
-        what = argument->resource;
-      } else if (auto* callback = std::get_if<Callback>(&entry)) {
-        BreakCalls(*callback);
-        line = callback->line;
-        what = callback->reason;
-      }
-      if (RenderEntry(entry) != before) {
-        report.Add(line, what + " of " + object.name + ": line over 130 bytes broken");
-      }
-    }
-  });
+  LineMender mender(report);
+  for (Item& item : module.items) mender.Mend(item);
 }
 
 }  // namespace uilfix

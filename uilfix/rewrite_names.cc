@@ -4,8 +4,7 @@
 #include <map>
 #include <optional>
 
-#include "uilfix/name_pool.h"
-#include "uilfix/references.h"
+#include "uilfix/renamer.h"
 #include "uilfix/reserved_words.h"
 #include "uilfix/rewrites.h"
 
@@ -27,18 +26,17 @@ std::optional<std::string> ShellFault(const std::string& name) {
   return std::nullopt;
 }
 
-void RenameWidgets(Module& module, NamePool& pool, Report& report) {
-  References references(module);
+void RenameWidgets(Module& module, Renamer& renamer, Report& report) {
   ForEachObject(module, [&](Object& object) {
     const auto fault = object.IsComment() ? ShellFault(object.name) : Fault(object.name);
     if (!fault) return;
     const std::string old = object.name;
-    references.Rename(object, pool.Make(old, "_widget", false));
+    renamer.Rename(object, "_widget", false);
     report.Add(object.line, "widget " + old + " is now " + object.name + ": " + *fault);
   });
 }
 
-void RenameProcedures(Module& module, NamePool& pool, Report& report) {
+void RenameProcedures(Module& module, Renamer& renamer, Report& report) {
   std::map<std::string, std::string> renamed;
   for (Item& item : module.items) {
     auto* declaration = std::get_if<Declaration>(&item);
@@ -46,10 +44,11 @@ void RenameProcedures(Module& module, NamePool& pool, Report& report) {
     const auto fault = Fault(declaration->name);
     if (!fault) continue;
     const std::string old = declaration->name;
-    declaration->name = renamed[old] = pool.Make(old, "_proc", false);
+    declaration->name = renamed[old] = renamer.NewName(old, "_proc", false);
     report.Add(declaration->line,
                "procedure " + old + " is now " + declaration->name + ": " + *fault);
   }
+  if (renamed.empty()) return;
   ForEachObject(module, [&](Object& object) {
     ForEachEntry<Callback>(object, [&](Callback& callback) {
       for (Call& call : callback.calls) {
@@ -63,9 +62,9 @@ void RenameProcedures(Module& module, NamePool& pool, Report& report) {
 }  // namespace
 
 void FixNames(Module& module, Report& report) {
-  NamePool pool(module);
-  RenameProcedures(module, pool, report);
-  RenameWidgets(module, pool, report);
+  Renamer renamer(module);
+  RenameProcedures(module, renamer, report);
+  RenameWidgets(module, renamer, report);
 }
 
 }  // namespace uilfix

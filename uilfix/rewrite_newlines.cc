@@ -29,8 +29,9 @@ std::string EscapeNewlines(std::string_view inside) {
 
 void FixNewlines(Module& module, Report& report) {
   ForEachValue(module, [&](const ValuePlace& place) {
+    if (place.value.find('\n') == std::string::npos) return;
     if (ChangeLiterals(place.value, EscapeNewlines)) {
-      report.Add(place.line, place.what + ": line ends written as \\n");
+      report.Add(place.line, place.What() + ": line ends written as \\n");
     }
   });
 }

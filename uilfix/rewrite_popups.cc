@@ -10,8 +10,8 @@ void FixPopups(Module& module, Report& report) {
     if (object.IsComment()) return;
     ForEachEntry<Control>(object, [&](Control& control) {
       if (control.class_name != "XmPopupMenu" || control.unmanaged) return;
-      if (control.lead.starts_with('!')) return;
-      control.unmanaged = true;
+      if (IsCommented(control.lead)) return;
+      Unmanage(control);
       report.Add(control.line,
                  "popup menu " + control.name + " of " + object.name + " is now unmanaged");
     });

@@ -1,32 +1,52 @@
 // SPDX-License-Identifier: MIT
 // Without the builder's run-time library a procedure named like a widget is declared with a capital
 // letter, but only one of the texts that call it changes; and two procedures may come to one name.
-#include <algorithm>
 #include <cctype>
-#include <set>
+#include <unordered_set>
 
 #include "uilfix/rewrites.h"
 
 namespace uilfix {
 namespace {
 
+// In the free layout one keyword may stand in front of several declarations; it must not be left
+// out with the first of them.
+void PassOnKeyword(const Declaration& left_out, Item* next) {
+  auto* heir = next ? std::get_if<Declaration>(next) : nullptr;
+  if (!left_out.layout || !heir || !heir->layout) return;
+  const bool keyword = left_out.layout->head.find_first_not_of(" \t") != std::string::npos;
+  const bool has_own = heir->layout->head.find_first_not_of(" \t") != std::string::npos;
+  if (!keyword || has_own) return;
+  Layout layout = *heir->layout;
+  layout.head = left_out.layout->head;
+  heir->layout = std::make_shared<const Layout>(std::move(layout));
+}
+
 // The declared names, each declared once from here on.
-std::set<std::string> TakeDeclarations(Module& module, Report& report) {
-  std::set<std::string> declared;
-  std::erase_if(module.items, [&](const Item& item) {
-    const auto* declaration = std::get_if<Declaration>(&item);
-    if (!declaration || declared.insert(declaration->name).second) return false;
+std::unordered_set<std::string> TakeDeclarations(Module& module, Report& report) {
+  std::unordered_set<std::string> declared;
+  std::unordered_set<const Item*> second;
+  for (Item& item : module.items) {
+    auto* declaration = std::get_if<Declaration>(&item);
+    if (!declaration || declared.insert(declaration->name).second) continue;
     report.Add(declaration->line,
                "procedure " + declaration->name + ": second declaration left out");
-    return true;
-  });
+    second.insert(&item);
+    PassOnKeyword(*declaration, &item == &module.items.back() ? nullptr : &item + 1);
+  }
+  if (second.empty()) return declared;
+  std::vector<Item> kept;
+  for (Item& item : module.items) {
+    if (!second.contains(&item)) kept.push_back(std::move(item));
+  }
+  module.items = std::move(kept);
   return declared;
 }
 
 }  // namespace
 
 void FixProcedures(Module& module, Report& report) {
-  const std::set<std::string> declared = TakeDeclarations(module, report);
+  const std::unordered_set<std::string> declared = TakeDeclarations(module, report);
   ForEachObject(module, [&](Object& object) {
     if (object.IsComment()) return;
     ForEachEntry<Callback>(object, [&](Callback& callback) {

@@ -5,14 +5,17 @@ namespace uilfix {
 namespace {
 
 constexpr Rewrite kRewrites[] = {
+    {"lineends", "leave out carriage returns before line ends", FixLineEnds},
+    {"arguments", "let Show, Hide, Enable and Disable name the widget as the module does",
+     FixArguments},
+    {"order", "put the items of lists in the order of the GIL file", FixOrder, true},
+    {"starts", "let sliders, gauges and lists start as the GIL file says", FixStarts, true},
     {"newlines", "write \\n for a line end inside a string", FixNewlines},
     {"escapes", "write the escapes of C as UIL has them", FixEscapes},
     {"encoding", "write UTF-8 texts in Latin-1, which is what Motif draws", FixEncoding},
     {"bytes", "write bytes that do not print as numbers", FixBytes},
     {"numbers", "keep numbers within the compiler's range", FixNumbers},
     {"menus", "make a popup menu of a menu that nothing uses", FixMenus},
-    {"arguments", "let Show, Hide, Enable and Disable name the widget as the module does",
-     FixArguments},
     {"duplicates", "rename the second of two widgets of one name", FixDuplicates},
     {"procedures", "mend calls and declarations that a renamed procedure left behind",
      FixProcedures},
@@ -21,7 +24,10 @@ constexpr Rewrite kRewrites[] = {
     {"popups", "leave popup menus unmanaged, so that they are not posted at start", FixPopups},
     {"textpanes", "let text panes hold more than one line", FixTextPanes},
     {"toggles", "show by a shadow which choice is set where there is no indicator", FixToggles},
+    {"containers", "give children a container whose parent can have none", FixContainers, true},
+    {"dialogs", "let dialogs stay when one of their buttons is pressed", FixDialogs, true},
     {"labels", "make labels of several lines compound strings", FixLabels},
+    {"reasons", "give a list's callback the reason of its selection policy", FixReasons},
     {"callbacks", "give help and checking procedures their own callbacks", FixCallbacks},
     {"lines", "break lines that are too long for the compiler", FixLines},
 };
@@ -37,19 +43,47 @@ const Rewrite* FindRewrite(std::string_view name) {
   return nullptr;
 }
 
-void FixModule(Module& module, const std::set<std::string, std::less<>>& off, Report& report) {
+bool Selection::Has(const Rewrite& rewrite) const {
+  return rewrite.on_request ? on.contains(rewrite.name) : !off.contains(rewrite.name);
+}
+
+void FixModule(Module& module, const Selection& selection, Report& report) {
   for (const Rewrite& rewrite : kRewrites) {
-    if (off.contains(rewrite.name)) continue;
+    if (!selection.Has(rewrite)) continue;
     report.SetRewrite(rewrite.name);
     rewrite.apply(module, report);
   }
 }
 
+std::string MendText(std::string_view text, const Selection& selection, Report& report,
+                     const std::vector<GilStart>& starts) {
+  CarriageReturns found;
+  std::string plain;
+  if (text.find('\r') != std::string_view::npos && !selection.off.contains("lineends")) {
+    plain = WithPlainLineEnds(text, &found);
+    text = plain;
+  }
+  // What text in no known form means may change with what is mended in it; so it is mended until
+  // nothing is left to do. In any other the first round finds everything.
+  constexpr int kMostRounds = 10;
+  std::string mended;
+  for (int round = 0; round < kMostRounds; ++round) {
+    Module module = ParseModule(text);
+    if (round == 0) module.carriage_returns = found;
+    module.starts = starts;
+    FixModule(module, selection, report);
+    std::string result = RenderModule(module);
+    const bool same = result == text;
+    mended = std::move(result);
+    text = mended;
+    if (same || !module.damaged) break;
+  }
+  return mended;
+}
+
 std::string FixText(std::string_view text, const std::set<std::string, std::less<>>& off,
                     Report& report) {
-  Module module = ParseModule(text);
-  FixModule(module, off, report);
-  return RenderModule(module);
+  return MendText(text, Selection{off, {}}, report);
 }
 
 }  // namespace uilfix

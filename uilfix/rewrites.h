@@ -3,7 +3,7 @@
 //
 // Each leaves a module alone that does not need it, and finds nothing more to do in its own result.
 // They run in the order of the table, which matters: arguments are matched with widgets before any
-// widget gets another name, and lines are measured last.
+// text or name changes, and lines are measured last.
 #ifndef PANDREL_UILFIX_REWRITES_H
 #define PANDREL_UILFIX_REWRITES_H
 
@@ -21,6 +21,15 @@ struct Rewrite {
   std::string_view name;     // as in --no-NAME
   std::string_view summary;  // for --help and --list
   void (*apply)(Module& module, Report& report);
+  bool on_request = false;  // as in --with=NAME
+};
+
+// Which rewrites run.
+struct Selection {
+  std::set<std::string, std::less<>> off;  // of those that run by themselves
+  std::set<std::string, std::less<>> on;   // of those that run on request
+
+  bool Has(const Rewrite& rewrite) const;
 };
 
 // The table, in the order in which the rewrites run.
@@ -29,14 +38,20 @@ std::span<const Rewrite> Rewrites();
 // The row of this name, or null.
 const Rewrite* FindRewrite(std::string_view name);
 
-// Runs every rewrite whose name is not in `off`.
-void FixModule(Module& module, const std::set<std::string, std::less<>>& off, Report& report);
+// Runs every rewrite of the selection.
+void FixModule(Module& module, const Selection& selection, Report& report);
 
-// Module text in, module text out.
+// Module text in, module text out; `starts` is from the GIL file that the module was made from, or
+// empty.
+std::string MendText(std::string_view text, const Selection& selection, Report& report,
+                     const std::vector<GilStart>& starts = {});
+
+// The same with all but the rewrites in `off`, and none on request.
 std::string FixText(std::string_view text, const std::set<std::string, std::less<>>& off,
                     Report& report);
 
 // What the compiler refuses.
+void FixLineEnds(Module& module, Report& report);
 void FixNewlines(Module& module, Report& report);
 void FixEscapes(Module& module, Report& report);
 void FixBytes(Module& module, Report& report);
@@ -55,7 +70,14 @@ void FixPopups(Module& module, Report& report);
 void FixTextPanes(Module& module, Report& report);
 void FixToggles(Module& module, Report& report);
 void FixLabels(Module& module, Report& report);
+void FixReasons(Module& module, Report& report);
 void FixCallbacks(Module& module, Report& report);
+
+// What programs may count on, so that it is done on request only.
+void FixOrder(Module& module, Report& report);
+void FixStarts(Module& module, Report& report);
+void FixContainers(Module& module, Report& report);
+void FixDialogs(Module& module, Report& report);
 
 }  // namespace uilfix
 

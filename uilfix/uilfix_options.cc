@@ -6,18 +6,31 @@
 namespace uilfix {
 namespace {
 
-// Switches off every rewrite that is not in the comma-separated list. Returns the first name in it
-// that no rewrite has, or the empty text.
-std::string SwitchToOnly(std::string_view names, Options& options) {
-  for (const Rewrite& rewrite : Rewrites()) options.off.emplace(rewrite.name);
+// Calls `take(name)` for each name in the comma-separated list. Returns the first that no rewrite
+// has, or the empty text.
+template <typename Take>
+std::string ForEachName(std::string_view names, Take take) {
   while (!names.empty()) {
     const std::size_t comma = names.find(',');
     const std::string_view name = names.substr(0, comma);
     if (!FindRewrite(name)) return std::string(name);
-    options.off.erase(options.off.find(name));
+    take(name);
     names.remove_prefix(comma == std::string_view::npos ? names.size() : comma + 1);
   }
   return "";
+}
+
+void SwitchOn(std::string_view name, Selection& selection) {
+  if (FindRewrite(name)->on_request) {
+    selection.on.emplace(name);
+  } else if (const auto off = selection.off.find(name); off != selection.off.end()) {
+    selection.off.erase(off);
+  }
+}
+
+void SwitchOff(std::string_view name, Selection& selection) {
+  if (const auto on = selection.on.find(name); on != selection.on.end()) selection.on.erase(on);
+  if (!FindRewrite(name)->on_request) selection.off.emplace(name);
 }
 
 Options UsageError(const std::string& error) {
@@ -53,15 +66,29 @@ Options ParseOptions(const std::vector<std::string_view>& arguments) {
       if (++i == arguments.size()) return UsageError(std::string(argument) + " needs a file name");
       options.output = arguments[i];
     } else if (argument.starts_with("--only=")) {
-      const std::string unknown = SwitchToOnly(argument.substr(7), options);
+      for (const Rewrite& rewrite : Rewrites()) SwitchOff(rewrite.name, options.selection);
+      const std::string unknown = ForEachName(
+          argument.substr(7), [&](std::string_view name) { SwitchOn(name, options.selection); });
       if (!unknown.empty()) return UsageError("no such rewrite: " + unknown);
+    } else if (argument.starts_with("--with=")) {
+      const std::string unknown = ForEachName(
+          argument.substr(7), [&](std::string_view name) { SwitchOn(name, options.selection); });
+      if (!unknown.empty()) return UsageError("no such rewrite: " + unknown);
+    } else if (argument == "--gil") {
+      if (++i == arguments.size()) return UsageError("--gil needs a file name");
+      options.gil = arguments[i];
+    } else if (argument.starts_with("--gil=")) {
+      options.gil = argument.substr(6);
     } else if (argument.starts_with("--no-")) {
       const std::string_view name = argument.substr(5);
       if (!FindRewrite(name)) return UsageError("no such rewrite: " + std::string(name));
-      options.off.emplace(name);
+      SwitchOff(name, options.selection);
     } else {
       return UsageError("unknown option: " + std::string(argument));
     }
+  }
+  if (options.selection.on.contains("starts") && options.gil.empty()) {
+    return UsageError("starts needs the GIL file, --gil FILE");
   }
   return options;
 }
@@ -71,7 +98,7 @@ std::string ListText() {
   for (const Rewrite& rewrite : Rewrites()) {
     std::string name(rewrite.name);
     name.resize(12, ' ');
-    text += name + std::string(rewrite.summary) + "\n";
+    text += name + std::string(rewrite.summary) + (rewrite.on_request ? " *\n" : "\n");
   }
   return text;
 }
@@ -88,11 +115,14 @@ std::string HelpText() {
       "      --no-REWRITE     switch a rewrite off\n"
       "      --only=REWRITE,REWRITE...\n"
       "                       switch all others off\n"
+      "      --with=REWRITE,REWRITE...\n"
+      "                       switch on those that run on request (* below)\n"
+      "      --gil FILE       the GIL file that the module was made from, for starts\n"
       "      --list           list the rewrites\n"
       "      --help           show this text\n"
       "      --version        show the version\n"
       "\n"
-      "Rewrites, in the order in which they run:\n";
+      "Rewrites, in the order in which they run (* on request only):\n";
   std::string list = ListText();
   for (std::size_t pos = 0; pos < list.size(); pos = list.find('\n', pos) + 1) {
     text += "  " + list.substr(pos, list.find('\n', pos) + 1 - pos);

@@ -3,10 +3,11 @@
 #ifndef PANDREL_UILFIX_UILFIX_OPTIONS_H
 #define PANDREL_UILFIX_UILFIX_OPTIONS_H
 
-#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "uilfix/rewrites.h"
 
 namespace uilfix {
 
@@ -14,11 +15,12 @@ struct Options {
   enum class Action { kFix, kHelp, kVersion, kList, kUsageError };
 
   Action action = Action::kFix;
-  std::string error;                       // for kUsageError: what is wrong
-  std::string input;                       // empty or "-" for standard input
-  std::string output;                      // empty or "-" for standard output
-  bool quiet = false;                      // no report
-  std::set<std::string, std::less<>> off;  // names of the rewrites that are switched off
+  std::string error;    // for kUsageError: what is wrong
+  std::string input;    // empty or "-" for standard input
+  std::string output;   // empty or "-" for standard output
+  std::string gil;      // the GIL file that the module was made from; empty for none
+  bool quiet = false;   // no report
+  Selection selection;  // the rewrites that run
 };
 
 Options ParseOptions(const std::vector<std::string_view>& arguments);

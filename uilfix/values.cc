@@ -4,19 +4,27 @@
 #include "uilfix/references.h"
 
 namespace uilfix {
+namespace {
+
+bool MayHoldLiteral(const std::string& text) { return text.find('"') != std::string::npos; }
+
+}  // namespace
+
+std::string ValuePlace::What() const {
+  return (call ? "argument of " + entry + " in " : entry + " of ") + object.name;
+}
 
 void ForEachValue(Module& module, const std::function<void(const ValuePlace&)>& visit) {
   ForEachObject(module, [&](Object& object) {
+    const bool comment = object.IsComment();
     ForEachEntry<Argument>(object, [&](Argument& argument) {
-      if (IsWidgetReference(argument.resource)) return;
-      visit({argument.value, argument.line, argument.resource + " of " + object.name,
-             object.IsComment()});
+      if (!MayHoldLiteral(argument.value) || IsWidgetReference(argument.resource)) return;
+      visit({argument.value, argument.line, comment, object, argument.resource, false});
     });
     ForEachEntry<Callback>(object, [&](Callback& callback) {
       for (Call& call : callback.calls) {
-        if (CallTarget(call)) continue;
-        visit({call.argument, call.line, "argument of " + call.procedure + " in " + object.name,
-               object.IsComment()});
+        if (!MayHoldLiteral(call.argument) || CallTarget(call)) continue;
+        visit({call.argument, call.line, comment, object, call.procedure, true});
       }
     });
   });

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # The fuzz targets. Each is built for libFuzzer with PANDREL_FUZZ, and with a plain main that replays
 # files for the tests of every build.
-set(fuzz_targets names strings reader convert uid)
+set(fuzz_targets names strings reader convert uid mender)
 set(fuzz_dir ${CMAKE_CURRENT_LIST_DIR})
 
 # Not under test here (mutator_tests is for that), so neither instrumented nor watched: half of a
@@ -13,6 +13,10 @@ target_compile_options(gil_mutator PRIVATE -O2)
 # An executable of the target's own file, `main` (a source, or nothing for libFuzzer's) and what it needs.
 function(add_fuzz_executable name target main)
   add_executable(${name} ${fuzz_dir}/fuzz_${target}.cc ${main})
+  if(target STREQUAL mender)
+    target_link_libraries(${name} PRIVATE pandrel_uilfix)
+    return()
+  endif()
   target_link_libraries(${name} PRIVATE pandrel_core)
   if(target STREQUAL "uid")
     target_sources(${name} PRIVATE ${CMAKE_SOURCE_DIR}/view/uid_texts.cc)

@@ -45,7 +45,10 @@ TEST(Literals, EscapesAreThoseOfTheCompiler) {
 }
 
 TEST(Literals, CharactersKeepEscapesWhole) {
-  EXPECT_THAT(SplitCharacters(R"(a\n\233\\q\)"), ElementsAre("a", "\\n", "\\233\\", "\\q", "\\"));
+  std::vector<std::string_view> characters;
+  std::string_view rest = R"(a\n\233\\q\)";
+  while (!rest.empty()) characters.push_back(TakeCharacter(rest));
+  EXPECT_THAT(characters, ElementsAre("a", "\\n", "\\233\\", "\\q", "\\"));
 }
 
 TEST(Literals, BytesAreWhatTheCompilerMakes) {

@@ -16,7 +16,7 @@ TEST(Options, DefaultsToStandardStreamsAndEveryRewrite) {
   EXPECT_EQ(options.input, "");
   EXPECT_EQ(options.output, "");
   EXPECT_FALSE(options.quiet);
-  EXPECT_TRUE(options.off.empty());
+  EXPECT_TRUE(options.selection.off.empty());
 }
 
 TEST(Options, TakesFilesAndSwitches) {
@@ -25,16 +25,38 @@ TEST(Options, TakesFilesAndSwitches) {
   EXPECT_EQ(options.input, "in.uil");
   EXPECT_EQ(options.output, "out.uil");
   EXPECT_TRUE(options.quiet);
-  EXPECT_EQ(options.off, (std::set<std::string, std::less<>>{"lines", "names"}));
+  EXPECT_EQ(options.selection.off, (std::set<std::string, std::less<>>{"lines", "names"}));
   EXPECT_EQ(ParseOptions({"--", "-odd"}).input, "-odd");
   EXPECT_EQ(ParseOptions({"-"}).input, "-");
 }
 
 TEST(Options, OnlySwitchesTheOthersOff) {
   const Options options = ParseOptions({"--only=lines,names"});
-  EXPECT_EQ(options.off.size(), Rewrites().size() - 2);
-  EXPECT_FALSE(options.off.contains("lines"));
-  EXPECT_FALSE(options.off.contains("names"));
+  for (const Rewrite& rewrite : Rewrites()) {
+    EXPECT_EQ(options.selection.Has(rewrite), rewrite.name == "lines" || rewrite.name == "names");
+  }
+  EXPECT_FALSE(options.selection.off.contains("lines"));
+  EXPECT_FALSE(options.selection.off.contains("names"));
+}
+
+TEST(Options, WithSwitchesOnWhatRunsOnRequest) {
+  const Options options = ParseOptions({"--with=order,dialogs", "--no-lines"});
+  for (const Rewrite& rewrite : Rewrites()) {
+    const bool wanted = rewrite.name == "order" || rewrite.name == "dialogs";
+    EXPECT_EQ(options.selection.Has(rewrite), rewrite.on_request ? wanted : rewrite.name != "lines")
+        << rewrite.name;
+    EXPECT_EQ(ParseOptions({}).selection.Has(rewrite), !rewrite.on_request) << rewrite.name;
+  }
+  EXPECT_TRUE(ParseOptions({"--only=order"}).selection.Has(*FindRewrite("order")));
+  EXPECT_FALSE(ParseOptions({"--with=order", "--no-order"}).selection.Has(*FindRewrite("order")));
+}
+
+TEST(Options, StartsNeedTheGilFile) {
+  EXPECT_EQ(ParseOptions({"--with=starts"}).error, "starts needs the GIL file, --gil FILE");
+  const Options options = ParseOptions({"--with=starts", "--gil", "a.G"});
+  EXPECT_EQ(options.action, Action::kFix);
+  EXPECT_EQ(options.gil, "a.G");
+  EXPECT_EQ(ParseOptions({"--gil=b.G"}).gil, "b.G");
 }
 
 TEST(Options, InformativeActions) {
@@ -51,6 +73,8 @@ TEST(Options, Mistakes) {
   EXPECT_EQ(ParseOptions({"--no-such"}).error, "no such rewrite: such");
   EXPECT_EQ(ParseOptions({"--only=lines,such"}).error, "no such rewrite: such");
   EXPECT_EQ(ParseOptions({"a", "b"}).error, "more than one input: b");
+  EXPECT_EQ(ParseOptions({"--with=such"}).error, "no such rewrite: such");
+  EXPECT_EQ(ParseOptions({"--gil"}).error, "--gil needs a file name");
   EXPECT_EQ(ParseOptions({"-o"}).error, "-o needs a file name");
 }
 
