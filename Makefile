@@ -5,14 +5,19 @@ PREFIX ?= /usr/local
 JOBS ?= $(shell nproc)
 EXAMPLE ?= examples/hello.G
 
-.PHONY: help setup setup-fuzz setup-dev build demo check install uninstall package
-.PHONY: asan clang debug coverage bench fuzz stress gallery format lint clean
+MAKEFLAGS += --no-print-directory
+
+.PHONY: help setup setup-tests setup-fuzz setup-dev build demo check install uninstall package package-tests
+.PHONY: asan debug clang coverage bench fuzz stress gallery format lint clean
 
 help: ## this list
 	@sed -n 's/^\([a-z-]*\):.*## /\1\t/p' Makefile | expand -t 14
 
-setup: ## install the Debian packages that the build and the tests need
+setup: ## install the Debian packages that the build needs, and uil
 	@scripts/setup
+
+setup-tests: ## also those that the tests need
+	@scripts/setup --tests
 
 setup-fuzz: ## also the second compiler with its fuzzer
 	@scripts/setup --fuzz
@@ -20,25 +25,24 @@ setup-fuzz: ## also the second compiler with its fuzzer
 setup-dev: ## also those that the developers' chores need
 	@scripts/setup --dev
 
-build: setup ## the programs, in build/release
+build: setup ## the programs and what there is of the tests, in build/release
 	cmake --preset release
 	cmake --build --preset release -j $(JOBS)
 
 demo: setup ## convert an example and show the result
-	@cmake --preset release > /dev/null
-	@cmake --build --preset release -j $(JOBS) --target pandrel
-	@scripts/demo build/release/src/pandrel $(EXAMPLE)
+	@scripts/step configure 'looking at the compiler and the libraries' cmake --preset release
+	@scripts/step build 'building the converter (a minute or two)' \
+	  cmake --build --preset release -j $(JOBS) --target pandrel pandrel-uilfix
+	@scripts/demo build/release $(EXAMPLE)
 
-check: build ## all tests: as built for use, then under the sanitizers
+check: setup-tests build ## all tests: as built for use, then under the sanitizers
 	ctest --preset release
-	$(MAKE) --no-print-directory asan
+	$(MAKE) asan
 
-asan debug: setup ## build and test with the sanitizers / for the debugger
-	cmake --preset $@
-	cmake --build --preset $@ -j $(JOBS)
-	ctest --preset $@
-
+asan: setup-tests ## build and test with the sanitizers
+debug: setup-tests ## build and test for the debugger
 clang: setup-fuzz ## build and test with the second compiler
+asan debug clang:
 	cmake --preset $@
 	cmake --build --preset $@ -j $(JOBS)
 	ctest --preset $@
@@ -58,10 +62,10 @@ fuzz: setup-fuzz ## a minute of fuzzing, all targets
 	cmake --build --preset $@ -j $(JOBS)
 	tests/fuzz/run --build build/fuzz
 
-gallery: build ## take the pictures of docs/gallery.md anew
+gallery: setup-tests build ## take the pictures of docs/gallery.md anew
 	@scripts/gallery build/release
 
-stress: build ## the tests that take long
+stress: setup-tests build ## the tests that take long
 	ctest --test-dir build/release -L stress --output-on-failure
 
 format: setup-dev ## reformat the C++ sources in place
@@ -71,15 +75,19 @@ lint: setup-dev ## formatting, clang-tidy, manual pages, scripts' syntax
 	scripts/lint
 
 install: setup ## to PREFIX (default /usr/local), below DESTDIR if set
-	cmake --preset release
-	cmake --build --preset release -j $(JOBS) --target programs
-	cmake --install build/release --prefix $(PREFIX)
+	@scripts/step configure 'looking at the compiler and the libraries' cmake --preset release
+	@scripts/step build 'building the programs (some minutes)' \
+	  cmake --build --preset release -j $(JOBS) --target programs
+	@scripts/step install 'installing below $(DESTDIR)$(PREFIX)' cmake --install build/release --prefix $(PREFIX)
 
 uninstall: ## remove what `make install` put there
-	cmake --build build/release --target uninstall
+	@cmake --build build/release --target uninstall
 
-package: setup-dev ## the Debian packages, in build/packages
+package: setup-dev ## the Debian packages, in build/packages, without running the tests
 	scripts/build-packages
+
+package-tests: setup-dev ## the same, with the tests that a package build runs
+	scripts/build-packages --tests
 
 clean: ## forget all that was built
 	rm -rf build

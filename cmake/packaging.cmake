@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 # Targets for installing and uninstalling, and the tarball of an installed tree (cpack in the build
-# folder).
+# folder). What is installed to be read is told in documents.cmake.
 add_custom_target(uninstall
   COMMAND ${CMAKE_COMMAND} -DMANIFEST=${CMAKE_BINARY_DIR}/install_manifest.txt
           -P ${CMAKE_CURRENT_LIST_DIR}/uninstall.cmake
@@ -8,7 +8,7 @@ add_custom_target(uninstall
 
 # What an installation needs, without the tests.
 add_custom_target(programs)
-foreach(program IN ITEMS pandrel gildump pandrel-uilfix pandrel-view)
+foreach(program IN ITEMS pandrel gildump pandrel-uilfix pandrel-view pandrel-port)
   if(TARGET ${program})
     add_dependencies(programs ${program})
   endif()
@@ -23,11 +23,8 @@ set(CPACK_GENERATOR TGZ)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_SOURCE_GENERATOR TGZ)
 set(CPACK_SOURCE_IGNORE_FILES "/build/;/\\\\.git/;/obj-;/debian/(pandrel|tmp|\\\\.debhelper)")
+# An installation of its own, by a script: CPack's usual one would build the tests as well.
+set(CPACK_INSTALL_CMAKE_PROJECTS "")
+set(CPACK_INSTALL_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/stage.cmake)
+set(CPACK_PANDREL_BUILD ${CMAKE_BINARY_DIR})
 include(CPack)
-
-# What is read rather than run.
-install(FILES README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
-install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR}
-  FILES_MATCHING PATTERN "*.md" PATTERN "*.svg" PATTERN "*.png")
-install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR} PATTERN convert-tree EXCLUDE)
-install(PROGRAMS examples/convert-tree DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples)

@@ -25,10 +25,26 @@ std::string TakeValue(std::string_view text) {
   return std::string(text.substr(0, end));
 }
 
-std::string WidgetForm(const std::string& gil_name) {
-  std::string name = gil_name.substr(0, kCutLength);
-  if (!name.empty()) name[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(name[0])));
-  return name;
+// The value of the first attribute of this name; empty when there is none.
+std::string AttributeOf(std::string_view object, std::string_view keyword) {
+  for (std::size_t at = object.find(keyword); at != std::string_view::npos;
+       at = object.find(keyword, at + 1)) {
+    const std::string_view after = object.substr(at + keyword.size());
+    if (!after.empty() && IsBlank(after[0])) return TakeValue(after);
+  }
+  return "";
+}
+
+constexpr std::string_view kType = ":type";
+
+// Calls `visit` with the text of each object, from its type to the next object's.
+template <typename Visit>
+void ForEachObject(std::string_view gil, Visit visit) {
+  for (std::size_t at = gil.find(kType); at != std::string_view::npos;) {
+    const std::size_t next = gil.find(kType, at + 1);
+    visit(gil.substr(at, next - at));
+    at = next;
+  }
 }
 
 }  // namespace
@@ -46,18 +62,44 @@ std::vector<std::string> ReadGilNames(std::string_view gil) {
   return names;
 }
 
-std::vector<std::string> ReadGilNamesFromFile(const std::filesystem::path& file) {
+std::vector<std::string> ReadPinnedPopups(std::string_view gil) {
+  std::vector<std::string> names;
+  ForEachObject(gil, [&](std::string_view object) {
+    if (AttributeOf(object, kType) == ":popup-window" && AttributeOf(object, ":pinned") == "t") {
+      names.push_back(AttributeOf(object, ":name"));
+    }
+  });
+  return names;
+}
+
+std::vector<GlyphButton> ReadGlyphButtons(std::string_view gil) {
+  std::vector<GlyphButton> buttons;
+  ForEachObject(gil, [&](std::string_view object) {
+    const std::string label = AttributeOf(object, ":label");
+    if (AttributeOf(object, kType) != ":button" || label.size() < 2) return;
+    if (AttributeOf(object, ":label-type") != ":glyph") return;
+    buttons.push_back({AttributeOf(object, ":name"), label.substr(1, label.size() - 2)});
+  });
+  return buttons;
+}
+
+std::string ReadGilText(const std::filesystem::path& file) {
   const std::string text = uilfix::ReadFile(file.string()).value_or("");
-  std::vector<std::string> names = ReadGilNames(text);
+  std::string all = text;
   std::error_code error;
   for (const auto& entry : std::filesystem::directory_iterator(file.parent_path(), error)) {
     const std::string other = entry.path().filename().string();
     if (entry.path() == file || text.find(other) == std::string::npos) continue;
     if (!entry.is_regular_file(error)) continue;
-    const auto more = ReadGilNames(uilfix::ReadFile(entry.path().string()).value_or(""));
-    names.insert(names.end(), more.begin(), more.end());
+    all += "\n" + uilfix::ReadFile(entry.path().string()).value_or("");
   }
-  return names;
+  return all;
+}
+
+std::string WidgetForm(const std::string& gil_name) {
+  std::string name = gil_name.substr(0, kCutLength);
+  if (!name.empty()) name[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(name[0])));
+  return name;
 }
 
 std::string GuessGilName(const std::vector<std::string>& gil_names, std::string_view widget) {

@@ -36,14 +36,11 @@ void ShowWindow(const Window& window);
 void HideWindow(const Window& window);
 bool IsShown(const Window& window);
 
-// Shows what the module shows at start: all but what is hidden or unmanaged there.
-void ShowInitialWindows(const Windows& windows);
+// Whether the module shows the window at start: it is neither hidden nor unmanaged there.
+bool IsShownAtStart(const Window& window);
 
-// The widget of this name in any window, shells included; null when there is none.
-Widget FindWidget(const Windows& windows, const std::string& name);
-
-// The window whose shell or work area the widget is, or null.
-const Window* WindowOf(const Windows& windows, Widget widget);
+// Ends the toolkit's loop when no window is shown any more. `windows` must stay where it is.
+void EndWithLastWindow(Windows& windows);
 
 }  // namespace view
 

@@ -4,20 +4,25 @@ pandrel_add_interface(<target> <file.G or file.P>
   [INTERFACES file.G...]    the interface files that a project names
   [GLYPHS file.icon...]     the icon files that the interface names
   [BASE directory]          where all these names start; by default the current source directory
-  [FLAGS option...]         options of pandrel; -quiet is always given
+  [FLAGS option...]         options of pandrel
+  [NO_MEND]                 leave the module as pandrel wrote it
+  [UILFIX_FLAGS option...]  options of pandrel-uilfix, which mends it otherwise
   [UIL_FLAGS option...]     options of uil
   [NO_UID]                  write the module, do not compile it
   [ALL])                    build with everything else
 
-Adds a target that converts the file and compiles the module. Results, in the current binary directory:
-<stem>.uil, <stem>.uid, and an .xbm file for each glyph. Their full names stand in the target's properties
-PANDREL_UIL and PANDREL_UID.
+Adds a target that converts the file, mends the module and compiles it. Results, in the current binary
+directory: <stem>.uil, <stem>.uid, an .xbm file for each glyph, and <stem>.log with all that the programs
+said. Their full names stand in the target's properties PANDREL_UIL, PANDREL_UID and PANDREL_LOG.
 
-Inputs are copied to the binary directory under the names they have relative to BASE, and the conversion runs there: pandrel looks for the files of a project and for glyphs from
-where it runs, and writes bitmaps beside them, which must not happen among the sources.
+Inputs are copied to the binary directory under the names they have relative to BASE, and the conversion
+runs there, in the folder of the input: pandrel looks for the files of a project and for glyphs from where
+it runs, and writes bitmaps beside them, which must not happen among the sources. A glyph that the interface
+names and that is not listed is missing there; the build warns of it.
 ]]
 function(pandrel_add_interface target input)
-  cmake_parse_arguments(PARSE_ARGV 2 arg "NO_UID;ALL" "BASE" "INTERFACES;GLYPHS;FLAGS;UIL_FLAGS")
+  cmake_parse_arguments(PARSE_ARGV 2 arg "NO_UID;NO_MEND;ALL" "BASE"
+    "INTERFACES;GLYPHS;FLAGS;UILFIX_FLAGS;UIL_FLAGS")
   if(arg_UNPARSED_ARGUMENTS)
     message(FATAL_ERROR "pandrel_add_interface: what is ${arg_UNPARSED_ARGUMENTS}?")
   endif()
@@ -50,11 +55,18 @@ function(pandrel_add_interface target input)
 
   set(uil "${CMAKE_CURRENT_BINARY_DIR}/${stem}.uil")
   set(uid "${CMAKE_CURRENT_BINARY_DIR}/${stem}.uid")
-  # The module gets its name only when it is whole: pandrel empties its output before it reads.
+  set(log "${CMAKE_CURRENT_BINARY_DIR}/${stem}.log")
+  set(mender "$<TARGET_FILE:Pandrel::pandrel-uilfix>")
+  if(arg_NO_MEND)
+    set(mender "")
+  endif()
+  set(script "${CMAKE_CURRENT_FUNCTION_LIST_DIR}/pandrel_convert.cmake")
   add_custom_command(OUTPUT "${uil}"
-    COMMAND Pandrel::pandrel -quiet ${arg_FLAGS} "${uil}.part" < "${copied_input}"
-    COMMAND ${CMAKE_COMMAND} -E rename "${uil}.part" "${uil}"
-    DEPENDS ${copies} Pandrel::pandrel
+    BYPRODUCTS "${log}"
+    COMMAND ${CMAKE_COMMAND} "-DPANDREL=$<TARGET_FILE:Pandrel::pandrel>" "-DUILFIX=${mender}"
+            "-DINPUT=${copied_input}" "-DUIL=${uil}" "-DFLAGS=${arg_FLAGS}" "-DUILFIX_FLAGS=${arg_UILFIX_FLAGS}"
+            -P "${script}"
+    DEPENDS ${copies} Pandrel::pandrel Pandrel::pandrel-uilfix "${script}"
     WORKING_DIRECTORY "${directory}"
     COMMENT "Converting ${input}" VERBATIM)
   set(results "${uil}")
@@ -75,7 +87,7 @@ function(pandrel_add_interface target input)
   else()
     add_custom_target(${target} DEPENDS ${results})
   endif()
-  set_target_properties(${target} PROPERTIES PANDREL_UIL "${uil}")
+  set_target_properties(${target} PROPERTIES PANDREL_UIL "${uil}" PANDREL_LOG "${log}")
   if(NOT arg_NO_UID)
     set_target_properties(${target} PROPERTIES PANDREL_UID "${uid}")
   endif()

@@ -2,6 +2,7 @@
 #include "convert/actions.h"
 
 #include <cstdio>
+#include <string>
 
 #include "convert/events.h"
 #include "flags/flags.h"
@@ -11,6 +12,7 @@
 #include "osi/strings.h"
 #include "text/uil_text.h"
 #include "widget/callbacks.h"
+#include "widget/procedures.h"
 #include "widget/resources.h"
 #include "widget/search.h"
 #include "widget/tree.h"
@@ -78,8 +80,12 @@ void FindAndFixUpWidgetName(const char* name) {
 
 // Enable and Disable name their target by its GIL name.
 static char* MakeSensitivityArgument(const Value* to) {
-  FindAndFixUpWidgetName(ValueText(to));
-  return MakeWidgList(FixInstanceNameForZO25(ValueText(to)));
+  char* name = ValueText(to);
+  FindAndFixUpWidgetName(name);
+  const std::string former = name;
+  FixInstanceNameForZO25(name);
+  ProcedureTextChanged(name, former);
+  return MakeWidgList(name);
 }
 
 void AddCallbackForDefinedAction(Widg* widg, const Value* when, const Value* to,

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "convert/label_type.h"
 
+#include <cstdlib>
+
 #include "gil/tokens.h"
 #include "gil/value.h"
 #include "glyph/glyph.h"
+#include "text/uil_text.h"
 #include "widget/tree.h"
 
 void HandleWidgLabelAndType(Widg* widg, const Value* label, const Value* label_type) {
@@ -12,7 +15,9 @@ void HandleWidgLabelAndType(Widg* widg, const Value* label, const Value* label_t
     AddResource(widg, "XmNlabelString", text);
     return;
   }
-  const char* pixmap = ProcessGlyphFilename(text);
+  char* value = ProcessGlyphFilename(text);
+  const char* pixmap = MergeStrings(value, "");
+  std::free(value);
   // Never written; actions find the item of a setting or a menu by it.
   AddResource(widg, "XmNoriginalPixmapName", text);
   AddResource(widg, "XmNlabelType", "XmPIXMAP");

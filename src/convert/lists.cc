@@ -12,6 +12,8 @@
 #include "gil/value.h"
 #include "osi/arena.h"
 #include "osi/fatal.h"
+#include "osi/memory.h"
+#include "osi/strings.h"
 #include "text/uil_text.h"
 #include "widget/links.h"
 #include "widget/resources.h"
@@ -66,9 +68,9 @@ int MakeStringTable(const Value* values, char** tableOut) {
     Append(&buffer, ValueText(value));
   }
   Append(&buffer, ")");
-  *tableOut = ArenaText(buffer.text, buffer.length);
+  buffer.text[buffer.length] = '\0';
+  *tableOut = OsiStrdup(buffer.text);
   std::free(buffer.text);
-  if (!*tableOut) Error("Out of memory in MakeStringTable");
   return count;
 }
 
@@ -86,7 +88,8 @@ static void SetItems(Obj* obj, Widg* list) {
   char* table = nullptr;
   const int count = MakeStringTable(values, &table);
   if (count == 0) return;
-  AddResource(list, "XmNitems", table);
+  AddResource(list, "XmNitems", MergeStrings(table, ""));
+  OsiFree(table);
   AddResource(list, "XmNitemCount", IntToString(count));
 }
 

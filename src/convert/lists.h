@@ -11,7 +11,7 @@ struct Widg;
 // Returns the scrolled window, or the container around it and the title.
 Widg* SpecProcScrollingList(Obj* obj, Widg* list);
 
-// Builds the UIL text of a string table in *tableOut from the strings in the order in which the
+// Builds the UIL text of a string table in *tableOut (OsiMalloc memory, the caller's) from the strings in the order in which the
 // list is held, and returns how many there are. An empty list, and a first buffer that cannot be
 // had, are reported on standard error and return 0; a buffer that cannot grow ends the run with
 // status 0.

@@ -103,7 +103,7 @@ static const ExpansionRow kExpansions[] = {
     {GROUP, SpecProcBoardOfGroup},
 };
 
-Widg* SpecialProcessing(Obj* obj, Widg* widg, Widg* /*parent*/) {
+Widg* SpecialProcessing(Obj* obj, Widg* widg) {
   Widg* result = widg;
   for (const ExpansionRow& row : kExpansions) {
     if (row.type == obj->type) result = row.Expand(obj, widg);
@@ -132,34 +132,32 @@ static Widg* BeginObj(Obj* obj) {
   return widg;
 }
 
-static Widg* EndObj(Obj* obj, Widg* widg, Widg* parent) {
+static Widg* EndObj(Obj* obj, Widg* widg) {
   if (reposition) FixUpGeometry(widg);
-  return SpecialProcessing(obj, widg, parent);
+  return SpecialProcessing(obj, widg);
 }
 
 // Owners may nest as deeply as the file likes, so the objects that wait for their children are on a
 // stack of their own.
-Widg* ProcessObj(Obj* obj, Widg* parent) {
+Widg* ProcessObj(Obj* obj) {
   struct Frame {
     Obj* obj;
     Widg* widg;
-    Widg* parent;
     Widg* last_child;  // attached so far
     Obj* next_child;
   };
   std::vector<Frame> open;
-  open.push_back({obj, BeginObj(obj), parent, nullptr, obj->children});
+  open.push_back({obj, BeginObj(obj), nullptr, obj->children});
   for (;;) {
     Frame& frame = open.back();
     if (Obj* child = frame.next_child) {
       frame.next_child = child->next;
-      Widg* child_parent = frame.widg;
-      open.push_back({child, BeginObj(child), child_parent, nullptr, child->children});
+      open.push_back({child, BeginObj(child), nullptr, child->children});
       continue;
     }
     const Frame done = frame;
     open.pop_back();
-    Widg* result = EndObj(done.obj, done.widg, done.parent);
+    Widg* result = EndObj(done.obj, done.widg);
     if (open.empty()) return result;
     Frame& owner = open.back();
     owner.last_child = AddChildBehind(owner.widg, owner.last_child, result);

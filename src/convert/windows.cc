@@ -9,6 +9,7 @@
 #include "text/uil_text.h"
 #include "widget/callbacks.h"
 #include "widget/links.h"
+#include "widget/nesting.h"
 #include "widget/resources.h"
 #include "widget/tree.h"
 

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "driver/driver.h"
 
+#include <sys/stat.h>
 #include <unistd.h>
+
 
 #include "convert/actions.h"
 #include "convert/objects.h"
@@ -12,12 +14,30 @@
 #include "gil/tokens.h"
 #include "gil/value.h"
 #include "osi/fatal.h"
+#include "osi/strings.h"
 #include "passes/clean_up.h"
 #include "widget/links.h"
 #include "widget/tree.h"
 
+// Whether the name is that of a GIL file, which somebody would lose for want of a "<".
+static bool IsGilFile(const char* name) {
+  struct stat status;
+  if (stat(name, &status) != 0 || !S_ISREG(status.st_mode)) return false;
+  std::FILE* file = std::fopen(name, "r");
+  if (!file) return false;
+  char start[sizeof ";GIL-"] = "";
+  std::fgets(start, sizeof start, file);
+  std::fclose(file);
+  return OsiStrcmp(start, ";GIL-") == 0;
+}
+
 std::FILE* OpenOutput() {
   if (!outfile) return stdout;
+  if (IsGilFile(outfile)) {
+    std::fprintf(stderr, "Error: %s is a GIL file; the operand names the module to write\n",
+                 outfile);
+    OsiExit(-1);
+  }
   std::FILE* output = std::fopen(outfile, "w");
   if (!output) {
     std::printf("Warning: Cannot open file %s for writing", outfile);
@@ -56,7 +76,7 @@ Obj* PutMenusFirst(Obj* objects) {
 Widg* ConvertObjHierToWidgHier(Obj* objects, Widg** listLink) {
   Widg* last = nullptr;
   for (Obj* obj = objects; obj; obj = obj->next) {
-    Widg* widg = ProcessObj(obj, nullptr);
+    Widg* widg = ProcessObj(obj);
     if (obj->type == GROUP) continue;
     LinkTopLevel(last && *listLink ? &last->next : listLink, widg);
     last = widg;

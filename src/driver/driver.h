@@ -8,8 +8,8 @@
 struct Obj;
 struct Widg;
 
-// Opens the file that the options name, else gives standard output. One that cannot be opened ends
-// the run. Called before any input is read, so that a bad name fails early.
+// Opens the file that the options name, else gives standard output. A GIL file, which would be
+// emptied, and a file that cannot be opened end the run. Called before any input is read, so that a bad name fails early.
 std::FILE* OpenOutput();
 
 // Converts the GIL file on standard input and stores the first of its top-level widgets in

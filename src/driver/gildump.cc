@@ -10,6 +10,7 @@
 int main() {
   OsiEndOnExhaustedMemory();
   HoldStandardStreams();
+  TellIfInputIsTerminal("gildump: reading a GIL file from the terminal\n");
   const Obj* objects = ParseGILFile();
   generate(project ? project : objects);
   OsiExit(0);

@@ -8,12 +8,15 @@
 #include "uil/writer.h"
 #include "widget/tree.h"
 
+static const char kNotice[] =
+    "pandrel: reading a GIL file from the terminal; pandrel -help lists the options\n";
+
 int main(int argc, char** argv) {
   OsiEndOnExhaustedMemory();
   HoldStandardStreams();
   ParseCommandLine(argc, argv);                // arguments to option flags
   std::FILE* output = OpenOutput();            // before any input, so that a bad name fails early
-  TellIfInputIsTerminal();                     // nobody should think that we hang
+  TellIfInputIsTerminal(kNotice);              // nobody should think that we hang
   ProcessGILFile(&top_widget);                 // standard input to top-level widgets
   ProcessProject();                            // and those of a project's interface files
   ProcessActions();                            // connections to callbacks

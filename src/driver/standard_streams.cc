@@ -18,9 +18,6 @@ void HoldStandardStreams() {
   }
 }
 
-void TellIfInputIsTerminal() {
-  if (verbose && isatty(STDIN_FILENO)) {
-    std::fputs("pandrel: reading a GIL file from the terminal; pandrel -help lists the options\n",
-               stderr);
-  }
+void TellIfInputIsTerminal(const char* notice) {
+  if (verbose && isatty(STDIN_FILENO)) std::fputs(notice, stderr);
 }

@@ -8,8 +8,8 @@
 // replaces standard input finds nothing; writing to what replaces the others fails.
 void HoldStandardStreams();
 
-// When a person at a terminal is what standard input reads from, says on standard error what is
-// expected; not when `verbose` is cleared.
-void TellIfInputIsTerminal();
+// Writes the notice on standard error when standard input is a terminal, where a person may not know
+// what is expected; not when `verbose` is cleared.
+void TellIfInputIsTerminal(const char* notice);
 
 #endif

@@ -5,6 +5,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -18,20 +20,34 @@
 #include "osi/strings.h"
 #include "text/uil_text.h"
 
-char* JustFilename(const char* path) {
-  if (!path) path = "";
-  const char* slash = std::strrchr(path, '/');
-  const char* start = slash ? slash : path;
-  while (*start == '/' || *start == '"') ++start;
-  char* name = ArenaText(start, std::strcspn(start, "."));
-  if (!name) Error("Out of memory in JustFilename");
-  return name;
+// The bare name of a file, and that of its XBM file.
+static std::string BareName(const std::string& path) {
+  const std::size_t slash = path.rfind('/');
+  std::size_t start = slash == std::string::npos ? 0 : slash;
+  start = std::min(path.find_first_not_of("/\"", start), path.size());
+  return path.substr(start, path.find('.', start) - start);
 }
 
-char* CreateXBMFilename(const char* path) { return MergeStrings(JustFilename(path), ".xbm"); }
+static std::string XbmName(const std::string& path) { return BareName(path) + ".xbm"; }
+
+// A text for a caller outside, who frees it.
+static char* NewText(const std::string& text, const char* out_of_memory) {
+  auto* copy = static_cast<char*>(TryRealloc(nullptr, text.size() + 1));
+  if (!copy) Error(out_of_memory);
+  return std::strcpy(copy, text.c_str());
+}
+
+char* JustFilename(const char* path) {
+  return NewText(BareName(path ? path : ""), "Out of memory in JustFilename");
+}
+
+char* CreateXBMFilename(const char* path) {
+  return NewText(XbmName(path ? path : ""), "Out of memory in JustFilename");
+}
 
 char* PixmapConvert(const char* file) {
-  return JoinTexts("xbitmapfile(\"", file, "\")", "Out of memory in PixmapConvert");
+  return NewText("xbitmapfile(\"" + std::string(file ? file : "") + "\")",
+                 "Out of memory in PixmapConvert");
 }
 
 // Whether a file can be read through to an end: a pipe or a device could keep us waiting for ever.
@@ -62,25 +78,25 @@ bool IsXbmFile(const char* name) {
 }
 
 // The outside command that converts a glyph file.
-static std::string ConversionCommand(const char* glyph, const char* xbm) {
+static std::string ConversionCommand(const std::string& glyph, const std::string& xbm) {
   return "icontopbm " + ShellWord(glyph) + " | pbmtoxbm > " + ShellWord(xbm);
 }
 
 // The outside command that gives the bitmap's identifiers the file's own name: pbmtoxbm calls them
 // "noname".
-static std::string RenameCommand(const char* base, const std::string& xbm) {
+static std::string RenameCommand(const std::string& base, const std::string& xbm) {
   const std::string file = ShellWord(xbm);
   const std::string temporary = ShellWord(xbm + ".tmp");
   return "sed -e 's/noname/" + QuotedSedReplacement(base) + "/' " + file + " > " + temporary +
          ";mv " + temporary + " " + file;
 }
 
-static void TellHowToConvert(const char* glyph, const char* xbm) {
+static void TellHowToConvert(const std::string& glyph, const std::string& xbm) {
   // The names shown are relative to the directory of the XBM file, those that are run are not.
-  const char* base = JustFilename(xbm);
-  std::printf("Cannot access glyph filename %s\n", glyph);
+  const std::string base = BareName(xbm);
+  std::printf("Cannot access glyph filename %s\n", glyph.c_str());
   std::printf("Convert to XBM with the commands:\n    %s\n", ConversionCommand(glyph, xbm).c_str());
-  std::printf("    %s\n\n", RenameCommand(base, std::string(base) + ".xbm").c_str());
+  std::printf("    %s\n\n", RenameCommand(base, base + ".xbm").c_str());
 }
 
 // The exit status of a command is not looked at: what it could not make is seen when the module is
@@ -89,7 +105,7 @@ static void Run(const std::string& command) {
   if (std::system(command.c_str()) == -1) std::fputs("Cannot run the shell\n", stderr);
 }
 
-static void Convert(const char* glyph, const char* xbm) {
+static void Convert(const std::string& glyph, const std::string& xbm) {
   const char* converter = OsiFileFindExeInPath("pbmtoxbm");
   std::fprintf(stderr, "Osi output: %s\n", converter ? converter : "");
   if (verbose) {
@@ -97,27 +113,23 @@ static void Convert(const char* glyph, const char* xbm) {
   }
   std::fflush(stdout);
   Run(ConversionCommand(glyph, xbm));
-  Run(RenameCommand(JustFilename(xbm), xbm));
+  Run(RenameCommand(BareName(xbm), xbm));
 }
 
 char* ProcessGlyphFilename(const char* glyph) {
-  char* copy = ArenaText(glyph, OsiStrlen(glyph));
-  if (!copy) Error("Out of memory in ProcessGlyphFilename");
-  const char* name = RemoveQuotes(copy);
-  if (IsXbmFile(name)) return PixmapConvert(name);
+  std::string copy = glyph ? glyph : "";
+  std::string name = RemoveQuotes(copy.data());
+  if (IsXbmFile(name.c_str())) return PixmapConvert(name.c_str());
 
-  const char* xbm = CreateXBMFilename(name);
-  if (icon_dir_name) {
-    const char* in_icon_dir = MergeStrings(icon_dir_name, name);
-    if (IsReadable(in_icon_dir)) {
-      name = in_icon_dir;
-      xbm = MergeStrings(icon_dir_name, xbm);
-    }
+  std::string xbm = XbmName(name);
+  if (icon_dir_name && IsReadable((icon_dir_name + name).c_str())) {
+    name.insert(0, icon_dir_name);
+    xbm.insert(0, icon_dir_name);
   }
-  if (!IsReadable(name)) {
+  if (!IsReadable(name.c_str())) {
     if (verbose) TellHowToConvert(name, xbm);
-  } else if (auto_convert_icons && access(xbm, R_OK) != 0) {
+  } else if (auto_convert_icons && access(xbm.c_str(), R_OK) != 0) {
     Convert(name, xbm);
   }
-  return PixmapConvert(xbm);
+  return PixmapConvert(xbm.c_str());
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Glyphs: labels that are images. Turns the name of an icon file into the UIL value of a pixmap
 // and, where that is wanted, the file into an XBM file by outside programs. When it cannot convert,
-// it tells the user which commands would. All texts returned live in the arena.
+// it tells the user which commands would. Texts returned are the caller's, to be freed with free().
 #ifndef PANDREL_GLYPH_GLYPH_H
 #define PANDREL_GLYPH_GLYPH_H
 

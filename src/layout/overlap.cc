@@ -50,7 +50,7 @@ bool MostlyHorizontalOverlap(const Widg* a, const Widg* b) {
 }
 
 Rectangle* Rect(const Widg* widg) {
-  auto* rect = ArenaNew<Rectangle>();
+  auto* rect = static_cast<Rectangle*>(TryRealloc(nullptr, sizeof(Rectangle)));
   if (!rect) Error("Out of memory in RectangleCorners");
   rect->left = LeftSidePos(widg);
   rect->top = TopPos(widg);

@@ -29,7 +29,7 @@ bool AlignedVertically(const Widg* a, const Widg* b);
 // Whether a's left edge lies in the last three tenths of b.
 bool MostlyHorizontalOverlap(const Widg* a, const Widg* b);
 
-// The widget's rectangle as far as it is known; owned by the arena. Ends the run when memory is
+// The widget's rectangle as far as it is known; the caller's, to be freed with free(). Ends the run when memory is
 // exhausted.
 Rectangle* Rect(const Widg* widg);
 

@@ -29,18 +29,20 @@ struct User {
   bool is_known = false;
   uid_t uid = 0;
   int group_count = 0;
-  gid_t groups[kMaxGroups + 1] = {};
+  gid_t groups[kMaxGroups] = {};
 };
 
 User user;
 
-// getgroups may or may not list the current group, so that one is always added; with more groups
-// than there is room for getgroups fails, and the current group is all there is.
+// With more groups than there is room for, the list cannot be read, and the current group is all
+// there is.
 void ReadUser() {
   user.uid = getuid();
-  int listed = getgroups(kMaxGroups, user.groups);
-  user.group_count = listed < 0 ? 0 : listed;
-  user.groups[user.group_count++] = getgid();
+  user.group_count = getgroups(kMaxGroups, user.groups);
+  if (user.group_count < 0) {
+    user.groups[0] = getgid();
+    user.group_count = 1;
+  }
   user.is_known = true;
 }
 
@@ -111,20 +113,12 @@ const char* OsiDirCreate(const char* path, mode_t mode) {
 }
 
 char* OsiTmpNam() {
-  // tmpnam would do, but the linker warns against it. mkstemp looks for a free name in the same
-  // directory, and gives a name that no other process was handed at the same time.
+  // tmpnam would do, but the linker warns against it.
   constexpr std::size_t kBlockSize = 25;
-  static constexpr char kTemplate[] = P_tmpdir "/fileXXXXXX";
-  static_assert(sizeof kTemplate <= kBlockSize);
   auto* name = static_cast<char*>(OsiZalloc(kBlockSize));
-  OsiStrcpy(name, kTemplate);
-  int descriptor = mkstemp(name);
-  if (descriptor < 0) {
-    OsiFree(name);
-    return nullptr;
-  }
-  close(descriptor);
-  unlink(name);
+  do {
+    std::snprintf(name, kBlockSize, P_tmpdir "/file%08x", arc4random());
+  } while (OsiFileExists(name));
   return name;
 }
 

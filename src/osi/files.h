@@ -48,8 +48,8 @@ int OsiFileDelete(const char* path);
 const char* OsiDirCreate(const char* path, mode_t mode);
 
 // The name of a file that does not exist yet, in the directory for temporary files, in a new block
-// of 25 bytes (OsiMalloc memory); null when none can be made there. Someone else may take the name
-// before the caller does: who needs only the file uses OsiTmpFile.
+// of 25 bytes (OsiMalloc memory). Whether a file can be made there is not tried, and someone else
+// may take the name before the caller does: who needs only the file uses OsiTmpFile.
 char* OsiTmpNam();
 
 // A new temporary file, open for writing and reading ("w+"), closed by the caller with fclose. It

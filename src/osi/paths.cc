@@ -1,25 +1,33 @@
 // SPDX-License-Identifier: MIT
 #include "osi/paths.h"
 
+#include <limits.h>
 #include <sys/stat.h>
 
+#include <cstdio>
+#include <cstring>
 #include <string>
 
 #include "osi/directories.h"
 #include "osi/environment.h"
+#include "osi/owned_text.h"
 #include "osi/strings.h"
 
-static std::string Join(const std::string& dir, const char* name) {
-  std::string path = dir;
+// Longer than any path that the system takes, so what is cut off is never missed.
+using PathBuffer = char[2 * PATH_MAX];
+
+// Joins the two in the buffer, which they may lie in.
+static char* Join(const char* dir, const char* name, PathBuffer& buffer) {
+  std::string path = dir ? dir : "";
   if (path.empty() || path.back() != '/') path += '/';
   if (name) path += name;
-  return path;
+  std::snprintf(buffer, sizeof buffer, "%s", path.c_str());
+  return buffer;
 }
 
 char* OsiMakePath(const char* dir, const char* name) {
-  static std::string joined;
-  joined = Join(dir ? dir : "", name);
-  return joined.data();
+  static PathBuffer path;
+  return Join(dir, name, path);
 }
 
 static bool IsOwnerExecutable(const char* path) {
@@ -28,21 +36,13 @@ static bool IsOwnerExecutable(const char* path) {
 }
 
 char* OsiFileFindExeInPath(const char* name) {
-  static std::string found;
+  static PathBuffer found;
   const char* path = OsiGetEnv("PATH");
   if (!path) return nullptr;
-  const std::string directories = path;
-  for (std::size_t start = 0; start <= directories.size();) {
-    std::size_t end = directories.find(':', start);
-    if (end == std::string::npos) end = directories.size();
-    if (end > start) {
-      std::string candidate = Join(directories.substr(start, end - start), name);
-      if (IsOwnerExecutable(candidate.c_str())) {
-        found = std::move(candidate);
-        return found.data();
-      }
-    }
-    start = end + 1;
+  const OsiOwnedText directories(OsiStrdup(path));
+  char* rest = directories.get();
+  while (const char* directory = strtok_r(rest, ":", &rest)) {
+    if (IsOwnerExecutable(Join(directory, name, found))) return found;
   }
   return nullptr;
 }

@@ -6,12 +6,14 @@
 #define PANDREL_OSI_PATHS_H
 
 // `dir` and `name` joined, with a "/" between them unless `dir` ends in one; null parts are empty.
-// The result is valid until the next call; the arguments may be the result of the one before.
+// The result stands in one buffer, which the next call overwrites; the arguments may be the result of
+// the one before. What is longer than the buffer, twice the longest path of the system, is cut.
 char* OsiMakePath(const char* dir, const char* name);
 
 // The first file `name` in the directories of PATH, in their order, that is not a directory and
 // whose owner may execute it (whether the current user may is not asked). Empty PATH entries are
-// skipped. Null when there is none or PATH is unset. The result is valid until the next call.
+// skipped. Null when there is none or PATH is unset. The result stands in a buffer of its own, which
+// the next call overwrites.
 char* OsiFileFindExeInPath(const char* name);
 
 // Splits `path` at its last "/" into two new strings (OsiMalloc memory, the caller's); either

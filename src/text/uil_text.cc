@@ -130,8 +130,6 @@ char* RemoveQuotes(char* text) {
   return *text == '"' ? text + 1 : text;
 }
 
-int IbStrncmp(const char* a, const char* b, std::size_t length) {
-  return std::strncmp(a ? a : "", b ? b : "", length);
-}
+int IbStrncmp(const char* a, const char* b, std::size_t length) { return OsiStrncmp(a, b, length); }
 
 void ResetStrings() { serial = kFirstSerial; }

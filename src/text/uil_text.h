@@ -10,7 +10,8 @@
 #include <cstddef>
 #include <cstdint>
 
-// The decimal text of `number`.
+// The decimal text of `number`, in the arena like all these texts; OsiIntToStr gives one that its
+// caller frees.
 char* IntToString(int32_t number);
 
 // The number at the start of `text` as atoi reads it: 0 when there is none.
@@ -57,7 +58,8 @@ char* EndOfString(char* text);
 // caller's buffer; returns the pointer to what is left.
 char* RemoveQuotes(char* text);
 
-// strncmp with a null text counting as empty.
+// strncmp with a null text counting as empty: OsiStrncmp under the name that the helpers of UIL
+// texts give it.
 int IbStrncmp(const char* a, const char* b, std::size_t length);
 
 // Starts the serial numbers of MergeStringsUnique anew.

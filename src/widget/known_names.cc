@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "widget/known_names.h"
 
+#include <cstddef>
+#include <cstdint>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -28,11 +30,16 @@ struct KnownNames {
   std::vector<Widg*> windows;  // that were learned, in their order; those that left are passed over
   // From here on the windows of the top level bring names that have not been learned.
   Widg* unlearned = nullptr;
+  uint32_t drop = 0;        // the mark of the walks of one clean-up
+  std::size_t learned = 0;  // how many widgets were gone through to learn their names,
+  std::size_t forgotten = 0;  // and to forget them
   bool ended = false;
   int claims = 0;
 };
 
 KnownNames known;
+
+constexpr std::size_t kFewWidgets = 100000;
 
 std::string Key(const char* name) { return name ? name : ""; }
 
@@ -52,6 +59,7 @@ void Learn(Widg* window) {
   FindFirst(window->child, visit, IsBelow, [visit](Widg* widg) {
     Widg*& below = known.answers[Key(widg->gil_name)].below;
     if (!below || below->visit != visit) below = widg;
+    ++known.learned;
     return false;
   });
 }
@@ -87,24 +95,31 @@ void NamesOfFileJoined(Widg* first) {
   bool is_earlier = known.unlearned && known.unlearned->top_level;
   for (const Widg* widg = first; widg; widg = widg->next) is_earlier &= widg != known.unlearned;
   if (!is_earlier) known.unlearned = first;
+  known.drop = 0;
 }
 
-void NamesMoved(Widg* widg) {
+// Forgets the names of the widget and of what the walk with this mark has not met below it.
+static void Forget(Widg* widg, uint32_t visit) {
   ChildrenChanged();
   if (known.ended) return;
-  const uint32_t visit = NewVisit();
   widg->visit = visit;
   ForgetBelow(widg->gil_name);
   FindFirst(widg->child, visit, IsBelow, [](const Widg* below) {
     ForgetBelow(below->gil_name);
+    ++known.forgotten;
     return false;
   });
+  // Groups of groups are moved again and again. Forgetting must not cost more than it saves.
+  if (known.forgotten > kFewWidgets + 4 * known.learned) EndKnownNames();
 }
+
+void NamesMoved(Widg* widg) { Forget(widg, NewVisit()); }
 
 void NamesDropped(Widg* menu) {
   ChildrenChanged();
   if (menu->visit == 0) return;
-  NamesMoved(menu);
+  if (known.drop == 0) known.drop = NewVisit();
+  Forget(menu, known.drop);
   // Where the menu was the first of its name, only widgets of its own file can be the next, and
   // those are learned again when the clean-up is done.
   Widg*& top = known.answers[Key(menu->gil_name)].top;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Linking widgets into lists and out of them, and the moves that put a new widget between a parent
-// and its children. Whoever changes a link of a widget that is in a list comes here, so that what
-// searches know stays true (widget/known_names.h).
+// Linking widgets into lists and out of them. Whoever changes a link of a widget that is in a list
+// comes here, so that what searches know stays true (widget/known_names.h).
 //
 // note [shared tails]
 // A child is appended with whatever `next` chain it has. A menu that a canvas claims while the
@@ -62,20 +61,7 @@ Widg* RemoveWidg(Widg* tree, Widg* widg);
 // RemoveChild from the one parent, AddChildLast to the other.
 void MoveWidgetInHierarchy(Widg* widg, Widg* old_parent, Widg* new_parent);
 
-// Takes the child out of the parent's list and makes it the only child of `new_parent`, which takes
-// over its position; the caller links `new_parent`. A line on standard error and no change when the
-// child is none of the parent's.
-void MakeSubHier(Widg* parent, Widg* child, Widg* new_parent);
-
-// Makes a new widget the only child of `widg`; it adopts the former children and gets copies of the
-// size. A bulletin board also gets zero margins and grows with its children.
-void InsertWidgBelow(Widg* widg, const char* class_name, char* name);
-
 // The last widget of the list that `widg` is in or begins; null for null.
 Widg* LastSibling(Widg* widg);
-
-// The parent itself when `widg` is its first child, the sibling before it otherwise; null when it
-// is no child.
-Widg* PrevSibling(Widg* parent, const Widg* widg);
 
 #endif

@@ -2,7 +2,6 @@
 #include "widget/plain_search.h"
 
 #include "osi/strings.h"
-#include "widget/search.h"
 
 uint32_t NewVisit() {
   static uint32_t last_visit = 0;

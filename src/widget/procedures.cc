@@ -1,22 +1,42 @@
 // SPDX-License-Identifier: MIT
 #include "widget/procedures.h"
 
-#include <string>
-#include <unordered_set>
+#include <algorithm>
+#include <unordered_map>
 #include <vector>
 
 #include "osi/owned_text.h"
+#include "osi/strings.h"
 
 static std::vector<char*, OsiAllocator<char*>> procedures;
-// The same texts for the look-up. Nothing writes to a procedure's text before the list is complete.
-static std::unordered_set<std::string> known;
+// The same by text. An entry whose procedure has another text by now counts for nothing.
+static std::unordered_map<std::string, char*> by_text;
+
+static std::string Key(const char* text) { return text ? text : ""; }
 
 bool AlreadyInProcList(const char* procedure) {
-  return known.count(procedure ? procedure : "") != 0;
+  const auto known = by_text.find(Key(procedure));
+  return known != by_text.end() && OsiStrcmp(known->second, procedure) == 0;
 }
 
 void InsertProcedure(char* procedure) {
-  if (known.insert(procedure ? procedure : "").second) procedures.push_back(procedure);
+  if (AlreadyInProcList(procedure)) return;
+  by_text[Key(procedure)] = procedure;
+  procedures.push_back(procedure);
+}
+
+void ProcedureTextChanged(char* text, const std::string& former) {
+  const auto known = by_text.find(former);
+  if (known == by_text.end() || known->second != text || former == Key(text)) return;
+  if (AlreadyInProcList(text)) {
+    // Two have the same text now; the one that came first declares it.
+    const auto IsSame = [text](const char* other) { return OsiStrcmp(other, text) == 0; };
+    const auto first = std::find_if(procedures.begin(), procedures.end(), IsSame);
+    procedures.erase(std::find_if(first + 1, procedures.end(), IsSame));
+    by_text[Key(text)] = *first;
+  } else {
+    by_text[Key(text)] = text;
+  }
 }
 
 std::size_t GetProcedures(char*** out) {
@@ -26,5 +46,5 @@ std::size_t GetProcedures(char*** out) {
 
 void ResetProcedures() {
   procedures.clear();
-  known.clear();
+  by_text.clear();
 }

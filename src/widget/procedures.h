@@ -4,12 +4,17 @@
 #define PANDREL_WIDGET_PROCEDURES_H
 
 #include <cstddef>
+#include <string>
 
 // Appends the procedure unless an equal text is in the list. The text is shared, not copied.
 void InsertProcedure(char* procedure);
 
 // Whether an equal text is in the list.
 bool AlreadyInProcList(const char* procedure);
+
+// Tells the list that a text, which may be that of a procedure, was `former` and has changed in
+// place, so that it is found under its new text.
+void ProcedureTextChanged(char* text, const std::string& former);
 
 // Stores the address of the first entry in *procedures (valid until the next insertion) and returns
 // how many there are.

@@ -37,11 +37,3 @@ Widg* FindParentOfWidg(Widg* tree, Widg* widg) {
   if (!is_known) return FindParentOfWidgPlainly(tree, widg);
   return Checked(widg->parent, [=] { return FindParentOfWidgPlainly(tree, widg); });
 }
-
-int IsChild(const Widg* parent, const Widg* widg) {
-  if (!parent || !widg) return 0;
-  for (const Widg* child = parent->child; child; child = child->next) {
-    if (child == widg) return 1;
-  }
-  return 0;
-}

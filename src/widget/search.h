@@ -23,7 +23,4 @@ Widg* FindWidgWithChild(Widg* tree, const char* name);
 // no list. The widget is in the tree or in no list at all.
 Widg* FindParentOfWidg(Widg* tree, Widg* widg);
 
-// 1 when `widg` is in the parent's child list; 0 also when either is null.
-int IsChild(const Widg* parent, const Widg* widg);
-
 #endif

@@ -57,6 +57,14 @@ Callback* MakeCallback(const char* callback_name, char* procedure, const char* a
   return callback;
 }
 
+int IsChild(const Widg* parent, const Widg* widg) {
+  if (!parent || !widg) return 0;
+  for (const Widg* child = parent->child; child; child = child->next) {
+    if (child == widg) return 1;
+  }
+  return 0;
+}
+
 void AddResource(Widg* widg, const char* name, const char* value) {
   Resource** link = &widg->resources;
   for (; *link; link = &(*link)->next) {

@@ -4,7 +4,8 @@
 
 Each row is made into a small interface file, which is converted; what the row's last column says is
 looked for in the module. The head of docs/mapping.md tells how a row is read. Every object type and
-attribute that the reader knows must stand in some row.
+attribute that the reader knows must stand in some row; so must every event and action of the
+converter's own tables, each of whose rows some row of the page must reach.
 
 usage: check_mapping.py [-v] path/to/pandrel
 """
@@ -28,13 +29,17 @@ NEEDS = {
 TOP_LEVEL = {":base-window", ":popup-window", ":menu", ":group"}
 # A row of the section for all types is tried with each of these.
 ANY_TYPE = [":control-area", ":button", ":message"]
+# Sources of events that have a widget; a row for "any other" is tried with those that no other row of its
+# event names.
+SOURCES = [":base-window", ":popup-window", ":control-area", ":canvas-pane", ":text-pane", ":button", ":message",
+           ":text-field", ":slider", ":gauge", ":scrolling-list", ":setting", ":menu"]
 
 
 class Module:
     """The widgets of a UIL module; commented ones count."""
 
-    def __init__(self, text):
-        self.text = text
+    def __init__(self, text, said):
+        self.text, self.said = text, said
         self.classes, self.children, self.settings = {}, {}, {}
         text = "\n".join(re.sub(r"^!(\(ZO\))?", "", line).strip() for line in text.split("\n"))
         text = re.sub(r"^!(\(ZO\))?", "", text, flags=re.M)
@@ -45,6 +50,8 @@ class Module:
             self.children[name] = {line.rstrip(";").split()[-1] for line in parts.group(1).splitlines() if line}
             # A list of several items stands on several lines.
             settings = re.sub(r",\n", ", ", parts.group(2) + parts.group(3))
+            settings = re.sub(r"= procedures \{\n(.*?)\};", lambda calls: "= procedures { "
+                              + calls[1].replace("\n", " ") + "};", settings, flags=re.S)
             self.settings[name] = dict(re.findall(r"^(XmN\w+) = (.*);$", settings, re.M))
 
 
@@ -72,16 +79,24 @@ def needed(gil_type, given=""):
 
 
 def action(source, event, kind, name, target):
-    return (f":actions ((:from ({source} ) :when ({event} ) :to ({target} ) "
-            f":function_type {kind} :arg_type () :action ({name} )))")
+    return (f"(:from ({source} ) :when ({event} ) :to ({target} ) "
+            f":function_type {kind} :arg_type () :action ({name} ))")
+
+
+def actions(*each):
+    return f":actions ({' '.join(each)})"
 
 
 class Converter:
     def __init__(self, pandrel, folder):
         self.pandrel, self.folder, self.runs = pandrel, folder, 0
+        self.sources = {}  # event: the types that rows of it name
+        self.met = set()   # (event, class) that a row has tried
 
-    def module(self, options, gil_type, attributes="", actions=":actions ()"):
-        """The module of the row's object among its companions; no object if the type is none."""
+    def module(self, options, gil_type, attributes="", connections=":actions ()", popup=False):
+        """The module of the row's object among its companions; no object if the type is none.
+
+        A menu is that of a button, or a popup menu."""
         button = ":label-type :string"
         objects = [
             f"(:type :menu :name s {needed(':menu')})",
@@ -91,23 +106,25 @@ class Converter:
             "(:type :control-area :name c :owner w)",
             f"(:type :button :name p1 :owner c :x 0 :y 0 {button})",
             f"(:type :button :name p2 :owner c {button})",
+            "(:type :drop-target :name x :owner c)",
         ]
         if gil_type == ":menu":
             # Something must use the menu, or it would not stay.
-            objects.append(f"(:type :button :name user :owner c :menu o {button})")
+            user = ":canvas-pane :name user :owner w" if popup else f":button :name user :owner c {button}"
+            objects.append(f"(:type {user} :menu o)")
         else:
             objects.insert(0, f"(:type :menu :name m {needed(':menu')})")
         if gil_type:
             owner = "" if gil_type in TOP_LEVEL else ":owner c"
-            objects.append(f"(:type {gil_type} :name o {owner} {needed(gil_type, attributes)} {attributes} {actions})")
+            objects.append(f"(:type {gil_type} :name o {owner} {needed(gil_type, attributes)} {attributes} {connections})")
         gil = ";GIL-3\n(\n" + "\n".join(objects) + "\n)\n"
         # Of two contradicting options the first counts: the row's come in front.
-        run = subprocess.run([self.pandrel, *options, "-noreposition", "-quiet", "m.uil"], input=gil.encode(),
+        run = subprocess.run([self.pandrel, *options, "-noreposition", "m.uil"], input=gil.encode(),
                              cwd=self.folder, capture_output=True, timeout=60)
         self.runs += 1
         if run.returncode:
             raise RuntimeError(f"status {run.returncode}: {run.stderr.decode()}\n{gil}")
-        return Module((pathlib.Path(self.folder) / "m.uil").read_text())
+        return Module((pathlib.Path(self.folder) / "m.uil").read_text(), (run.stdout + run.stderr).decode())
 
 
 def rows(page):
@@ -130,15 +147,32 @@ def check(converter, section, header, cells):
     options = " ".join(spans(row.get("options", ""))).split()
     last = row["becomes"]
 
-    if "action" in row:
+    if "function type" in row:
         def make(on):
-            connection = action("o", "Notify", ":user_defined", spans(row["action"])[0], spans(row["target"])[0])
-            return converter.module(options, ":button", "", connection if on else ":actions ()")
+            connection = action("o", "Notify", spans(row["function type"])[0], spans(row["action"])[0],
+                                spans(row["target"])[0])
+            return converter.module(options, ":button", "", actions(connection) if on else actions())
+    elif "of a button" in row:
+        words = spans(row["of a button"])
+
+        def make(on):
+            connections = [action("o", event, "CallFunction", name, "o") for event, name in zip(words[::2], words[1::2])]
+            return converter.module(options, ":button", "", actions(*connections) if on else actions())
     elif "event" in row:
-        def make(on):
-            connection = action("o", spans(row["event"])[0], "CallFunction", "f", "o")
-            return converter.module(options, spans(row["source"])[0], " ".join(spans(row["with"])),
-                                    connection if on else ":actions ()")
+        event = spans(row["event"])[0]
+        sources = [spans(row["source"])] if spans(row["source"]) else [
+            [gil_type] for gil_type in SOURCES if gil_type not in converter.sources[event]]
+        wrong = []
+        for gil_type, *item in sources:
+            def make(on, gil_type=gil_type, item=item):
+                connection = action(f"o {item[0]}" if item else "o", event, "CallFunction", "f", "o")
+                module = converter.module(options, gil_type, " ".join(spans(row["with"])),
+                                          actions(connection) if on else actions(), "popup" in row["source"])
+                if on:
+                    converter.met |= {(event, widget_class) for widget_class in source_classes(module, item)}
+                return module
+            wrong += [f"{gil_type}: {claim}" for claim in untrue(make, last)]
+        return wrong
     elif "GIL type" in row:
         def make(on):
             return converter.module(options, spans(row["GIL type"])[0] if on else None, " ".join(spans(row["with"])))
@@ -156,9 +190,20 @@ def check(converter, section, header, cells):
     return untrue(make, last)
 
 
+def source_classes(module, item):
+    """The classes of what an event may come from: the object, or its items."""
+    names = module.children.get("o", ()) if item else ("o", "o1")
+    return {module.classes[name] for name in names if name in module.classes}
+
+
 def untrue(make, last):
     if last.startswith("nothing"):
-        return [] if make(True).text == make(False).text else ["nothing"]
+        given, without = make(True), make(False)
+        if given.text != without.text:
+            return ["nothing"]
+        if (given.said != without.said) != last.startswith("nothing, but a note"):
+            return ["no note"] if given.said == without.said else [f"said: {given.said.strip()}"]
+        return []
     if last in ("the widget's name", "the widget's place"):
         return []
     module = make(True)
@@ -168,15 +213,32 @@ def untrue(make, last):
     return [claim for claim, verdict in verdicts if verdict is False]
 
 
-def known_words():
-    """The object types and attributes that the reader's tables hold, with their colons."""
-    keywords = dict((token, text) for text, token in
-                    re.findall(r'\{"([\w-]+)", (\w+)\}', (ROOT / "src/gil/keywords.cc").read_text()))
-    forms = (ROOT / "src/gil/attribute_forms.cc").read_text().split("kAttributes[] = {")[1].split("\n};")[0]
-    words = re.findall(r"\{k\w+, (\w+)\}", forms)
+def unmet_events(met, named):
+    """Rows of the converter's table of events that no row of the page reaches, and events of gil(5) without row."""
+    source = (ROOT / "src/convert/events.cc").read_text().split("kEvents[] = {")[1].split("\n};")[0]
+    table = re.findall(r'\{"(\w+)", "(\w*)",', source)
+    reached = set()
+    for event, widget_class in met:
+        reached.add(next(((e, c) for e, c in table if e == event and c in ("", widget_class)), None))
     manual = (ROOT / "man/gil.5").read_text()
-    types = re.search(r"\.Ss Types\n(.*?)\.Ss", manual, re.S).group(1)
-    return {":" + keywords[word] for word in words} | set(re.findall(r":[a-z-]+", types))
+    described = set(re.findall(r"\w+", re.search(r"is an event:\n((?:\.Li [A-Z].*\n)+)", manual).group(1))) - {"Li"}
+    return [" ".join(row) for row in table if row not in reached] + sorted(described ^ named)
+
+
+def unnamed_actions(page):
+    """Actions that the converter knows and the page has no row for."""
+    known = set(re.findall(r'OsiStrcmp\([^"]*"(\w+)"\)', (ROOT / "src/convert/actions.cc").read_text()))
+    known = {word for word in known if not word.startswith("Xm")}
+    if not {"Show", "CallFunction"} <= known:
+        return ["cannot read src/convert/actions.cc"]
+    section = page.split("### Actions")[1].split("###")[0]
+    return sorted(known - {word for line in section.splitlines() for word in spans(line)})
+
+
+def known_words():
+    """The object types and attributes in the reader's table of words, with their colons."""
+    rows = re.findall(r'^WORD\(\w+, +"([\w-]+)", +(.+?), +([^,]+)\)$', (ROOT / "src/gil/words.def").read_text(), re.M)
+    return {":" + text for text, value, word_of in rows if value != "kNoValue" or "kElementType" in word_of}
 
 
 def main():
@@ -190,6 +252,10 @@ def main():
     mentioned = set()
     with tempfile.TemporaryDirectory() as folder:
         converter = Converter(given.pandrel.resolve(), folder)
+        for _, section, header, cells in rows(page):
+            if section == "Events":
+                row = dict(zip(header, cells))
+                converter.sources.setdefault(spans(row["event"])[0], set()).update(spans(row["source"]))
         for number, section, header, cells in rows(page):
             mentioned |= set(re.findall(r":[\w-]+", " ".join(cells[:-1]) + " :" + section.strip(":")))
             if section == "Projects":
@@ -204,10 +270,11 @@ def main():
                 print(f"docs/mapping.md:{number}: not so: {'; '.join(wrong)}")
             elif given.v:
                 print(f"docs/mapping.md:{number}: ok")
-        missing = known_words() - mentioned
+        missing = (sorted(known_words() - mentioned) + unmet_events(converter.met, set(converter.sources))
+                   + unnamed_actions(page))
         if missing:
             failures += 1
-            print("docs/mapping.md: no row has", " ".join(sorted(missing)))
+            print("docs/mapping.md: no row has", ", ".join(missing))
         print(f"{checked} rows checked with {converter.runs} conversions, {failures} failures")
     sys.exit(1 if failures else 0)
 

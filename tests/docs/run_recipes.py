@@ -5,7 +5,7 @@
 Of README.md the ```sh blocks, but for those that call make, which would build and test once more
 (scripts/fresh-root-check runs them too). Of docs/batch.md the local recipes for xargs and GNU parallel.
 
-usage: run_recipes.py --bin DIR
+usage: run_recipes.py --bin DIR [--bin DIR ...]
 """
 import argparse
 import os
@@ -28,9 +28,9 @@ def indented_block(page, heading):
 
 def main():
     arguments = argparse.ArgumentParser()
-    arguments.add_argument("--bin", required=True)
+    arguments.add_argument("--bin", action="append", required=True)
     given = arguments.parse_args()
-    environment = dict(os.environ, PATH=given.bin + ":" + os.environ["PATH"])
+    environment = dict(os.environ, PATH=":".join([*given.bin, os.environ["PATH"]]))
     failures = 0
 
     def run(name, script, folder):

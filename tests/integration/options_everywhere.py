@@ -15,7 +15,8 @@ def options(path, pattern):
 def main():
     known = options("src/driver/command_line.cc", r'"-([a-zA-Z][\w]*)"')
     places = {
-        "completions/pandrel.bash": options("integration/completions/pandrel.bash", r"(?<=\s)-([a-zA-Z][\w]*)(?=[\s'])"),
+        "completions/pandrel.bash": set(re.findall(r"-(\w+)", re.search(
+            r"_pandrel_options='(.*?)'", (ROOT / "integration/completions/pandrel.bash").read_text(), re.S).group(1))),
         "completions/pandrel.zsh": options("integration/completions/pandrel.zsh", r"-([a-zA-Z]\w*)-?\["),
     }
     manual = (ROOT / "man/pandrel.1").read_text()
@@ -23,8 +24,6 @@ def main():
     places["pandrel.1"] = set()
     for line in re.findall(r"^\.It Fl (.*)$", listed, re.M):
         places["pandrel.1"] |= {"D"} if line.startswith("D Ns") else set(line.split(" , "))
-    # Words of the completion functions' own commands.
-    places["completions/pandrel.bash"] -= {"t", "d", "P", "o", "W", "F", "f", "X"}
     known.add("D")
     failed = False
     for place, found in places.items():

@@ -17,15 +17,10 @@ def objects(converter):
 
 
 def children(converter):
-    """How many children or callbacks one widget gets. The UIL compiler gives up beyond about 1,700
-    children of one widget, so what costs their square is tried up to ten times as many."""
+    """How many there are where each is compared with all: callbacks of one widget, items with an
+    action each, members of one group. The UIL compiler gives up beyond about 1,700 children of one
+    widget; ten times as many is enough."""
     return converter.size(2_000, 20_000)
-
-
-def levels(converter):
-    """How deep menus and groups nest. Each that is put into another looks at all within it, and no
-    interface has more than a few levels: this many show that the stack holds."""
-    return converter.size(4_000, 10_000)
 
 
 def converts(converter, arguments, per_byte=MEMORY_PER_BYTE):
@@ -63,14 +58,14 @@ def owner_chain_reversed(converter):
 
 def menu_chain(converter):
     """Menus, each opened by an item of the next."""
-    count = levels(converter)
+    count = objects(converter)
     outcome = converts(converter, ["--shape", "menu-chain", "--objects", count])
     outcome.expect_count(b"XmPulldownMenu{\n", count - 1)
 
 
 def group_chain(converter):
     """Groups, each the only member of the next."""
-    count = levels(converter)
+    count = objects(converter)
     outcome = converts(converter, ["--shape", "group-chain", "--objects", count])
     outcome.expect_count(BOARD, count - 3 + 1)
 

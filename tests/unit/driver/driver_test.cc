@@ -73,6 +73,26 @@ TEST_F(DriverTest, NamedOutputIsEmptiedWhenItIsOpened) {
   EXPECT_EQ(ReadWhole(path), "new");
 }
 
+TEST_F(DriverTest, GilFileIsRefusedAsOutputAndKept) {
+  const std::string path = dir.Write("app.G", ";GIL-3\n(\n");
+  outfile = path.c_str();
+  const Outcome outcome = Run([] { OpenOutput(); });
+  EXPECT_EQ(outcome.status, -1);
+  EXPECT_EQ(outcome.out, "");
+  EXPECT_EQ(outcome.err,
+            "Error: " + path + " is a GIL file; the operand names the module to write\n");
+  EXPECT_EQ(ReadWhole(path), ";GIL-3\n(\n");
+}
+
+TEST_F(DriverTest, FileThatOnlyLooksLikeAGilFileIsWritten) {
+  for (const char* text : {"", ";GIL", "; GIL-3", " ;GIL-3", ";gil-3", "module Pandrel\n;GIL-3"}) {
+    const std::string path = dir.Write("out.uil", text);
+    outfile = path.c_str();
+    CloseOutput(OpenOutput());
+    EXPECT_EQ(ReadWhole(path), "") << text;
+  }
+}
+
 TEST_F(DriverTest, OutputThatCannotBeOpenedEndsTheRun) {
   outfile = "no/such/folder.uil";
   const Outcome outcome = Run([] { OpenOutput(); });

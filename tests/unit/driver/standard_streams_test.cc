@@ -63,7 +63,7 @@ TEST_F(StandardStreamsDeathTest, ClosedStreamsAreHeldAndCannotBeUsed) {
 
 TEST_F(StandardStreamsTest, TerminalIsTold) {
   TerminalAsInput terminal;
-  const Outcome outcome = Run(TellIfInputIsTerminal);
+  const Outcome outcome = Run([] { TellIfInputIsTerminal(kNotice); });
   EXPECT_EQ(outcome.out, "");
   EXPECT_EQ(outcome.err, kNotice);
 }
@@ -71,7 +71,9 @@ TEST_F(StandardStreamsTest, TerminalIsTold) {
 TEST_F(StandardStreamsTest, TerminalIsNotToldWhenQuiet) {
   TerminalAsInput terminal;
   verbose = 0;
-  EXPECT_EQ(Run(TellIfInputIsTerminal).err, "");
+  EXPECT_EQ(Run([] { TellIfInputIsTerminal(kNotice); }).err, "");
 }
 
-TEST_F(StandardStreamsTest, FileIsNotTold) { EXPECT_EQ(Run(TellIfInputIsTerminal, "()").err, ""); }
+TEST_F(StandardStreamsTest, FileIsNotTold) {
+  EXPECT_EQ(Run([] { TellIfInputIsTerminal(kNotice); }, "()").err, "");
+}

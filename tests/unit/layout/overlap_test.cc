@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <cstdlib>
 #include <vector>
 
 #include "layout/geometry.h"
@@ -89,11 +90,12 @@ TEST_F(LayoutOverlap, MostlyNeedsALeftEdgeInside) {
 }
 
 TEST_F(LayoutOverlap, RectangleHasTheGuessedEdges) {
-  const Rectangle* rect = Rect(At(NewWidg("XmLabel", "a"), 1, 2, 30, 40));
+  Rectangle* rect = Rect(At(NewWidg("XmLabel", "a"), 1, 2, 30, 40));
   EXPECT_EQ(rect->left, 1);
   EXPECT_EQ(rect->top, 2);
   EXPECT_EQ(rect->right, 41);
   EXPECT_EQ(rect->bottom, 42);
+  std::free(rect);
 }
 
 TEST_F(LayoutOverlap, ExhaustedMemoryForARectangleIsFatal) {

@@ -106,11 +106,6 @@ TEST_F(OsiFileAccessAsRootTest, LooksAtTheOthersBitsOfAForeignFile) {
   EXPECT_EQ(AccessTo(Give(kGroup, 0770)), "");
 }
 
-TEST_F(OsiFileAccessAsRootTest, LooksAtTheGroupsBitsOfAFileOfTheCurrentGroup) {
-  EXPECT_EQ(AccessTo(Give(getgid(), 0040)), "ro");
-  EXPECT_EQ(AccessTo(Give(getgid(), 0707)), "");
-}
-
 // Runs in a child: ends with status 0 when the answer for `path` is `expected`.
 [[noreturn]] void ExpectAccessWithGroups(const std::vector<gid_t>& groups, const std::string& path,
                                          const std::string& expected) {
@@ -130,6 +125,15 @@ TEST_F(OsiFileAccessDeathTest, KnowsTheGroupsOfTheUser) {
   EXPECT_EXIT(ExpectAccessWithGroups({kGroup - 1, kGroup}, path, "ro"), testing::ExitedWithCode(0),
               "");
   EXPECT_EXIT(ExpectAccessWithGroups({kGroup - 1}, path, ""), testing::ExitedWithCode(0), "");
+}
+
+// The current group counts only where the list cannot be read.
+TEST_F(OsiFileAccessDeathTest, LooksAtTheGroupsBitsOfTheListedGroupsOnly) {
+  const std::string own = Give(getgid(), 0640);
+  EXPECT_EXIT(ExpectAccessWithGroups({kGroup}, own, ""), testing::ExitedWithCode(0), "");
+  EXPECT_EXIT(ExpectAccessWithGroups({getgid()}, own, "ro"), testing::ExitedWithCode(0), "");
+  const std::string others = Give(getgid(), 0604);
+  EXPECT_EXIT(ExpectAccessWithGroups({getgid()}, others, ""), testing::ExitedWithCode(0), "");
 }
 
 TEST_F(OsiFileAccessDeathTest, KnowsSixteenGroupsAtMost) {
@@ -302,19 +306,19 @@ TEST(OsiTmpNam, NamesANewFileInTheTemporaryDirectory) {
   OsiFree(other);
 }
 
-// Runs in a child: ends with status 0 when no name can be had without file descriptors.
-[[noreturn]] void ExpectNoTmpNam() {
+// Runs in a child: ends with status 0 when a name is had without file descriptors.
+[[noreturn]] void ExpectTmpNamWithoutFiles() {
   rlimit limit;
   getrlimit(RLIMIT_NOFILE, &limit);
   const rlimit none = {0, limit.rlim_max};
   setrlimit(RLIMIT_NOFILE, &none);
   const char* name = OsiTmpNam();
   setrlimit(RLIMIT_NOFILE, &limit);
-  std::exit(name ? 1 : 0);
+  std::exit(name ? 0 : 1);
 }
 
-TEST(OsiTmpNamDeathTest, GivesNullWhenNoFileCanBeMade) {
-  EXPECT_EXIT(ExpectNoTmpNam(), testing::ExitedWithCode(0), "");
+TEST(OsiTmpNamDeathTest, NamesAFileWhereNoneCanBeMade) {
+  EXPECT_EXIT(ExpectTmpNamWithoutFiles(), testing::ExitedWithCode(0), "");
 }
 
 TEST(OsiTmpFile, IsOpenForWritingAndReading) {

@@ -2,6 +2,7 @@
 #include "osi/paths.h"
 
 #include <gtest/gtest.h>
+#include <limits.h>
 #include <unistd.h>
 
 #include <string>
@@ -30,10 +31,19 @@ TEST(OsiMakePath, TakesItsOwnResult) {
   EXPECT_STREQ(OsiMakePath("0", OsiMakePath("a", "b")), "0/a/b");
 }
 
-TEST(OsiMakePath, HoldsNamesOfAnyLength) {
-  const std::string dir(70000, 'd');
-  const std::string name(70000, 'n');
-  EXPECT_EQ(OsiMakePath(dir.c_str(), name.c_str()), dir + "/" + name);
+TEST(OsiMakePath, HoldsTheLongestPathAndCutsWhatIsLonger) {
+  const std::string dir(PATH_MAX, 'd');
+  const std::string name(PATH_MAX - 2, 'n');
+  const std::string path = dir + "/" + name;
+  EXPECT_EQ(OsiMakePath(dir.c_str(), name.c_str()), path);
+  EXPECT_EQ(OsiMakePath(dir.c_str(), (name + "more").c_str()), path);
+}
+
+TEST(OsiMakePath, ResultStaysWhereItIs) {
+  const char* first = OsiMakePath("a", "b");
+  OsiMakePath(std::string(3000, 'd').c_str(), "c");
+  OsiMakePath("x", "y");
+  EXPECT_STREQ(first, "x/y");
 }
 
 class OsiFileFindExeInPathTest : public testing::Test {

@@ -64,4 +64,48 @@ TEST_F(ProcedureList, ResetEmptiesIt) {
   EXPECT_FALSE(AlreadyInProcList("quit"));
 }
 
+// Renames the text in place, as an action does that shares it.
+void Change(char* text, char last) {
+  const std::string former = text;
+  text[former.size() - 1] = last;
+  ProcedureTextChanged(text, former);
+}
+
+TEST_F(ProcedureList, ChangedTextIsFoundUnderItsNewName) {
+  char text[] = "foo1";
+  InsertProcedure(text);
+  Change(text, 'B');
+  EXPECT_TRUE(AlreadyInProcList("fooB"));
+  EXPECT_FALSE(AlreadyInProcList("foo1"));
+  InsertProcedure(Writable("fooB"));
+  InsertProcedure(Writable("foo1"));
+  EXPECT_EQ(Procedures(), "fooB foo1");
+}
+
+TEST_F(ProcedureList, TextThatComesToEqualALaterOneTakesItsPlace) {
+  char text[] = "foo1";
+  for (char* name : {text, Writable("quit"), Writable("fooB"), Writable("save")})
+    InsertProcedure(name);
+  Change(text, 'B');
+  EXPECT_EQ(Procedures(), "fooB quit save");
+  InsertProcedure(Writable("fooB"));
+  EXPECT_EQ(Procedures(), "fooB quit save");
+}
+
+TEST_F(ProcedureList, TextThatComesToEqualAnEarlierOneLeaves) {
+  char text[] = "foo1";
+  for (char* name : {Writable("fooB"), text, Writable("save")}) InsertProcedure(name);
+  Change(text, 'B');
+  EXPECT_EQ(Procedures(), "fooB save");
+}
+
+TEST_F(ProcedureList, TextOfNoProcedureChangesNothing) {
+  char text[] = "foo1";
+  InsertProcedure(Writable("foo1"));
+  Change(text, 'B');
+  EXPECT_EQ(Procedures(), "foo1");
+  EXPECT_FALSE(AlreadyInProcList("fooB"));
+  EXPECT_TRUE(AlreadyInProcList("foo1"));
+}
+
 }  // namespace

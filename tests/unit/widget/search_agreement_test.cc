@@ -11,6 +11,7 @@
 #include "unit/support/session_fixture.h"
 #include "unit/support/widgets.h"
 #include "widget/links.h"
+#include "widget/nesting.h"
 #include "widget/plain_search.h"
 #include "widget/search.h"
 #include "widget/tree.h"

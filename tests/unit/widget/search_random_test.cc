@@ -16,6 +16,7 @@
 #include "unit/support/widgets.h"
 #include "widget/copy.h"
 #include "widget/links.h"
+#include "widget/nesting.h"
 #include "widget/plain_search.h"
 #include "widget/search.h"
 #include "widget/tree.h"

@@ -175,18 +175,6 @@ TEST_F(WidgSearch, NullIsNobodysChildAndNobodysParent) {
   EXPECT_EQ(IsChild(nullptr, nullptr), 0);
 }
 
-TEST_F(WidgSearch, PredecessorOfTheFirstChildIsTheParent) {
-  Widg* a = Leaf("a");
-  Widg* b = Leaf("b");
-  Widg* c = Leaf("c");
-  Widg* parent = NewWidg("XmForm", "p", {a, b, c});
-  EXPECT_EQ(PrevSibling(parent, a), parent);
-  EXPECT_EQ(PrevSibling(parent, b), a);
-  EXPECT_EQ(PrevSibling(parent, c), b);
-  EXPECT_EQ(PrevSibling(parent, Leaf("d")), nullptr);
-  EXPECT_EQ(PrevSibling(a, b), nullptr);
-}
-
 TEST_F(WidgSearch, WidgetBelowItselfDoesNotStopASearch) {
   Widg* wanted = Leaf("item");
   Widg* loop = NewWidg("XmForm", "loop", {wanted});
