@@ -10,6 +10,7 @@ import tempfile
 import threading
 import time
 
+GILGEN = str(pathlib.Path(__file__).resolve().parents[2] / "bench/gilgen")
 MODULE_END = b"end module;\n\n"
 SANITIZER_REPORT = re.compile(
     rb"AddressSanitizer|LeakSanitizer|UndefinedBehaviorSanitizer|runtime error:")
@@ -83,7 +84,6 @@ class Converter:
 
     def __init__(self, options, folder):
         self.pandrel = os.path.abspath(options.pandrel)
-        self.gilgen = os.path.abspath(options.gilgen)
         self.sanitized = options.sanitized
         self.small = options.size == "small"
         self.limit = (20 if self.small else 120) * (5 if options.sanitized else 1)  # seconds
@@ -96,7 +96,7 @@ class Converter:
 
     def generate(self, *arguments):
         """The output of gilgen, for inputs small enough to hold."""
-        return subprocess.run([self.gilgen, *map(str, arguments)], check=True,
+        return subprocess.run([GILGEN, *map(str, arguments)], check=True,
                               capture_output=True).stdout
 
     def convert(self, source, arguments=(), module="module.uil", stdout=None, stderr=None,
@@ -124,7 +124,7 @@ class Converter:
         generator, feeder, stdin = None, None, subprocess.PIPE
         with tempfile.TemporaryFile() as out, tempfile.TemporaryFile() as err:
             if isinstance(source, list):
-                generator = subprocess.Popen([self.gilgen, "--summary", *map(str, source)],
+                generator = subprocess.Popen([GILGEN, "--summary", *map(str, source)],
                                              stdout=subprocess.PIPE, stderr=subprocess.PIPE)
                 stdin = generator.stdout
             elif hasattr(source, "fileno"):
