@@ -2,8 +2,8 @@
 # Flags that every target of ours is built with.
 add_library(pandrel_flags INTERFACE)
 target_compile_options(pandrel_flags INTERFACE
-  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion -Wnon-virtual-dtor
-  -Wcast-qual -Wformat=2 -Wundef -fno-strict-aliasing)
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion
+  $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor> -Wcast-qual -Wformat=2 -Wundef -fno-strict-aliasing)
 # GCC 12 warns of overlapping copies in `"text" + std::string` where there are none (its bug 105651).
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   target_compile_options(pandrel_flags INTERFACE -Wno-restrict)

@@ -4,7 +4,7 @@
 //   input.h        the user's file converted, mended and compiled
 //   shells.h       which windows the module describes
 //   windows.h      the windows made and filled
-//   run_time.h, stubs.h   the procedures that the module calls
+//   zo.h, stubs.h  the procedures that the module calls
 //   screenshots.h, listing.h   what can be had instead of a running interface
 #include <Mrm/MrmAppl.h>
 
@@ -17,11 +17,11 @@
 #include "listing.h"
 #include "view_options.h"
 #include "popup_menus.h"
-#include "run_time.h"
 #include "screenshots.h"
 #include "stubs.h"
 #include "uid_names.h"
 #include "view_windows.h"
+#include "zo.h"
 
 namespace {
 
@@ -36,11 +36,15 @@ int Fail(const std::string& message) {
   return kFailure;
 }
 
-// Lets the module call the procedure of this name.
+void ReportWrongArgument(Widget, const char* message) {
+  std::cerr << kProgram << ": " << message << "\n";
+}
+
+// Lets the module call the procedure of this name; those of the run time are known already.
 void Provide(const std::string& name) {
   static std::set<std::string> kept;  // the resource manager keeps pointers to the names
-  XtCallbackProc procedure = view::RunTimeProcedure(name);
-  if (!procedure) procedure = view::StubFor(name);
+  if (ZoProcedure(name.c_str())) return;
+  XtCallbackProc procedure = view::StubFor(name);
   if (!procedure) {
     std::cerr << kProgram << ": too many procedures; " << name << " will not be announced\n";
     return;
@@ -90,6 +94,8 @@ void ApplyGeometry(const view::Toolkit& toolkit, const view::Windows& windows) {
 
 int ShowInterface(const Options& options, const view::Interface& interface) {
   MrmInitialize();
+  ZoRegister();
+  ZoSetReport(ReportWrongArgument);
   const view::Toolkit toolkit = view::StartToolkit(options.toolkit_options);
   if (!toolkit.display) return Fail("cannot open display \"" + toolkit.display_name + "\"\n");
 
@@ -105,7 +111,6 @@ int ShowInterface(const Options& options, const view::Interface& interface) {
   const auto plans = Plans(interface, hierarchy, toolkit);
   if (plans.empty()) return Fail(options.file + ": no window to show\n");
   bool ok = view::MakeWindows(windows, hierarchy, plans);
-  view::SetRunTimeWindows(windows);
   view::PostPopupMenus(windows);
   ApplyGeometry(toolkit, windows);
 

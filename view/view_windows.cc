@@ -10,6 +10,7 @@
 #include <iostream>
 
 #include "widget_tree.h"
+#include "zo.h"
 
 namespace view {
 namespace {
@@ -160,21 +161,9 @@ bool MakeWindows(Windows& windows, MrmHierarchy hierarchy, std::vector<Shell> pl
   return all;
 }
 
-void ShowWindow(const Window& window) {
-  if (!window.plan.dialog) {
-    XtPopup(window.shell, XtGrabNone);
-    return;
-  }
-  for (Widget widget : window.work) XtManageChild(widget);
-}
+void ShowWindow(const Window& window) { ZoShow(window.shell); }
 
-void HideWindow(const Window& window) {
-  if (!window.plan.dialog) {
-    XtPopdown(window.shell);
-    return;
-  }
-  for (Widget widget : window.work) XtUnmanageChild(widget);
-}
+void HideWindow(const Window& window) { ZoHide(window.shell); }
 
 bool IsShown(const Window& window) {
   if (window.plan.dialog) return !window.work.empty() && XtIsManaged(window.work.front());
@@ -190,22 +179,6 @@ void ShowInitialWindows(const Windows& windows) {
         window.plan.dialog && !window.plan.work.empty() && !window.plan.work.front().managed;
     if (!window.plan.hidden && !unmanaged) ShowWindow(window);
   }
-}
-
-Widget FindWidget(const Windows& windows, const std::string& name) {
-  for (const Window& window : windows.windows) {
-    if (Widget found = FindBelow(window.shell, name)) return found;
-  }
-  return nullptr;
-}
-
-const Window* WindowOf(const Windows& windows, Widget widget) {
-  for (const Window& window : windows.windows) {
-    const bool work =
-        std::find(window.work.begin(), window.work.end(), widget) != window.work.end();
-    if (window.shell == widget || work) return &window;
-  }
-  return nullptr;
 }
 
 }  // namespace view

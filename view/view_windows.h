@@ -39,12 +39,6 @@ bool IsShown(const Window& window);
 // Shows what the module shows at start: all but what is hidden or unmanaged there.
 void ShowInitialWindows(const Windows& windows);
 
-// The widget of this name in any window, shells included; null when there is none.
-Widget FindWidget(const Windows& windows, const std::string& name);
-
-// The window whose shell or work area the widget is, or null.
-const Window* WindowOf(const Windows& windows, Widget widget);
-
 }  // namespace view
 
 #endif

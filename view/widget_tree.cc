@@ -27,14 +27,6 @@ void WalkWidgets(Widget widget, const std::function<void(Widget)>& visit) {
   for (Widget child : ChildrenOf(widget)) WalkWidgets(child, visit);
 }
 
-Widget FindBelow(Widget widget, const std::string& name) {
-  if (XtName(widget) == name) return widget;
-  for (Widget child : ChildrenOf(widget)) {
-    if (Widget found = FindBelow(child, name)) return found;
-  }
-  return nullptr;
-}
-
 bool IsPopupMenu(Widget widget) {
   if (!XmIsRowColumn(widget)) return false;
   unsigned char type = XmWORK_AREA;

@@ -17,9 +17,6 @@ std::vector<Widget> ChildrenOf(Widget widget);
 // Calls `visit` for the widget and all below it, parents first.
 void WalkWidgets(Widget widget, const std::function<void(Widget)>& visit);
 
-// The first widget of this name at or below `widget`, or null.
-Widget FindBelow(Widget widget, const std::string& name);
-
 // Whether the widget is a popup menu (the row-column itself, not its shell).
 bool IsPopupMenu(Widget widget);
 

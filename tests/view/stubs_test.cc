@@ -4,8 +4,8 @@
 #include <set>
 
 // After GoogleTest, which uses names that X defines as macros.
-#include "run_time.h"
 #include "stubs.h"
+#include "zo.h"
 
 namespace view {
 namespace {
@@ -32,9 +32,9 @@ TEST(Stubs, EachNameHasItsOwnUntilTheyRunOut) {
 TEST(RunTime, KnowsItsProcedures) {
   for (const auto name : {"ZoManageCB", "ZoUnmanageCB", "ZoSetValuesCB", "ZoSetSensitiveCB",
                           "ZoSetInsensitiveCB", "ZoVerifyNumericCB", "ZoHelpCB"}) {
-    EXPECT_NE(RunTimeProcedure(name), nullptr) << name;
+    EXPECT_NE(ZoProcedure(name), nullptr) << name;
   }
-  EXPECT_EQ(RunTimeProcedure("open_file"), nullptr);
+  EXPECT_EQ(ZoProcedure("open_file"), nullptr);
 }
 
 }  // namespace

@@ -1,0 +1,266 @@
+// SPDX-License-Identifier: MIT
+#include "port/functions.h"
+
+#include <algorithm>
+#include <cctype>
+#include <map>
+#include <set>
+#include <string_view>
+
+#include "widget/tree.h"
+
+namespace port {
+namespace {
+
+// Keywords of C up to its newest form, and of C++, since programs get ported on.
+constexpr std::string_view kKeywords[] = {"alignas",
+                                          "alignof",
+                                          "and",
+                                          "and_eq",
+                                          "asm",
+                                          "auto",
+                                          "bitand",
+                                          "bitor",
+                                          "bool",
+                                          "break",
+                                          "case",
+                                          "catch",
+                                          "char",
+                                          "class",
+                                          "compl",
+                                          "const",
+                                          "const_cast",
+                                          "constexpr",
+                                          "continue",
+                                          "default",
+                                          "delete",
+                                          "do",
+                                          "double",
+                                          "dynamic_cast",
+                                          "else",
+                                          "enum",
+                                          "explicit",
+                                          "export",
+                                          "extern",
+                                          "false",
+                                          "float",
+                                          "for",
+                                          "friend",
+                                          "goto",
+                                          "if",
+                                          "inline",
+                                          "int",
+                                          "long",
+                                          "mutable",
+                                          "namespace",
+                                          "new",
+                                          "noexcept",
+                                          "not",
+                                          "not_eq",
+                                          "nullptr",
+                                          "operator",
+                                          "or",
+                                          "or_eq",
+                                          "private",
+                                          "protected",
+                                          "public",
+                                          "register",
+                                          "reinterpret_cast",
+                                          "restrict",
+                                          "return",
+                                          "short",
+                                          "signed",
+                                          "sizeof",
+                                          "static",
+                                          "static_assert",
+                                          "static_cast",
+                                          "struct",
+                                          "switch",
+                                          "template",
+                                          "this",
+                                          "thread_local",
+                                          "throw",
+                                          "true",
+                                          "try",
+                                          "typedef",
+                                          "typeid",
+                                          "typename",
+                                          "typeof",
+                                          "typeof_unqual",
+                                          "union",
+                                          "unix",
+                                          "linux",
+                                          "unsigned",
+                                          "using",
+                                          "virtual",
+                                          "void",
+                                          "volatile",
+                                          "wchar_t",
+                                          "while",
+                                          "xor",
+                                          "xor_eq"};
+
+// What the C library and the system's headers define, as far as names of callbacks may meet it: a
+// function of such a name would not compile, or would replace the library's for the whole program.
+constexpr std::string_view kLibrary[] = {
+    "NULL", "FILE", "EOF", "True", "False", "None", "abort", "abs", "accept", "access", "acos",
+    "alarm", "asctime", "asin", "assert", "atan", "atan2", "atexit", "atof", "atoi", "atol",
+    "basename", "bcmp", "bcopy", "bind", "bsearch", "bzero", "cabs", "calloc", "ceil", "chdir",
+    "chmod", "chown", "clearerr", "clock", "close", "closedir", "connect", "cos", "cosh", "creat",
+    "crypt", "ctime", "difftime", "dirname", "div", "dup", "dup2", "end", "environ", "erf", "errno",
+    "etext", "edata", "execl", "execle", "execlp", "execv", "execve", "execvp", "exit", "exp",
+    "fabs", "fclose", "fcntl", "fdopen", "feof", "ferror", "fflush", "ffs", "fgetc", "fgets",
+    "fileno", "floor", "fmod", "fopen", "fork", "fprintf", "fputc", "fputs", "fread", "free",
+    "freopen", "frexp", "fscanf", "fseek", "fstat", "ftell", "fwrite", "gamma", "getc", "getchar",
+    "getcwd", "getenv", "getgid", "getline", "getlogin", "getopt", "getpid", "getpwnam", "getpwuid",
+    "gets", "getuid", "getw", "gmtime", "hypot", "index", "ioctl", "isalnum", "isalpha", "isatty",
+    "isdigit", "islower", "isspace", "isupper", "j0", "j1", "jn", "kill", "labs", "ldexp", "lgamma",
+    "link", "listen", "localtime", "log", "log10", "longjmp", "lseek", "main", "malloc", "memcmp",
+    "memcpy", "memmove", "memset", "mkdir", "mkfifo", "mktime", "modf", "mount", "nice", "open",
+    "opendir", "optarg", "optind", "pause", "pclose", "perror", "pipe", "poll", "popen", "pow",
+    "printf", "putc", "putchar", "putenv", "puts", "putw", "qsort", "raise", "rand", "random",
+    "read", "readdir", "readlink", "realloc", "recv", "regcomp", "remove", "rename", "rewind",
+    "rindex", "rmdir", "round", "scalb", "scanf", "select", "send", "setbuf", "setenv", "setjmp",
+    "setlocale", "setuid", "shutdown", "sigaction", "signal", "significand", "sin", "sinh", "sleep",
+    "socket", "sprintf", "sqrt", "srand", "sscanf", "stat", "stderr", "stdin", "stdout", "stpcpy",
+    "strcat", "strchr", "strcmp", "strcpy", "strdup", "strerror", "strlen", "strncat", "strncmp",
+    "strncpy", "strrchr", "strstr", "strtok", "strtol", "symlink", "sync", "sysinfo", "system",
+    "tan", "tanh", "time", "times", "tmpfile", "tolower", "toupper", "truncate", "ttyname", "tzset",
+    "umask", "umount", "uname", "ungetc", "unlink", "usleep", "utime", "vfork", "vprintf", "wait",
+    "waitpid", "write", "y0", "y1", "yn",
+    // Types, macros and names of Xlib and the toolkit that have no prefix of their own.
+    "Arg", "ArgList", "Atom", "Bool", "Boolean", "Bitmap", "Cardinal", "Colormap", "Cursor",
+    "Dimension", "Display", "Drawable", "Font", "GC", "KeyCode", "KeySym", "Mask", "Pixel",
+    "Pixmap", "Position", "Region", "Screen", "Status", "String", "Time", "Visual", "Widget",
+    "WidgetClass", "WidgetList", "Window", "Above", "Below", "BitmapOpenFailed", "ButtonPress",
+    "ButtonRelease", "Complex", "Convex", "Expose", "KeyPress", "KeyRelease", "MotionNotify",
+    "EnterNotify", "LeaveNotify", "FocusIn", "FocusOut", "Success", "BadValue", "BadWindow",
+    "Always", "Never", "Button1", "Button2", "Button3", "Nonconvex", "Opposite", "Unsorted",
+    "shellWidgetClass", "topLevelShellWidgetClass", "applicationShellWidgetClass"};
+
+// Prefixes of names that belong to the libraries and to the other files of the program.
+constexpr std::string_view kPrefixes[] = {"Xt",  "Xm", "_X",  "Zo",  "Mrm",      "MRM", "XA_",
+                                          "XK_", "__", "str", "mem", "pthread_", "SIG", "port_"};
+
+bool IsWordByte(char c) {
+  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_';
+}
+
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+// A prefix of a library's names: "Xt" takes XtManageChild, not Xtra.
+bool HasLibraryPrefix(const std::string& word) {
+  for (std::string_view prefix : kPrefixes) {
+    if (!word.starts_with(prefix)) continue;
+    const bool lower = prefix == "str" || prefix == "mem";
+    const char next = word.size() > prefix.size() ? word[prefix.size()] : 'A';
+    // The language keeps "str" and "mem" with a small letter behind for its library.
+    if (lower ? next >= 'a' && next <= 'z' : !(next >= 'a' && next <= 'z') || prefix.back() == '_')
+      return true;
+  }
+  // Xlib: a capital X and a capital letter.
+  if (word.size() > 2 && word[0] == 'X' && word[1] >= 'A' && word[1] <= 'Z') return true;
+  return word.starts_with("_");
+}
+
+std::string FreeWord(std::string word, const std::set<std::string>& used) {
+  if (IsTaken(word)) word += "_callback";
+  std::string candidate = word;
+  for (int number = 2; used.contains(candidate); ++number) {
+    candidate = word;
+    candidate += '_';
+    candidate += std::to_string(number);
+  }
+  return candidate;
+}
+
+bool IsCode(const Connection& connection) { return connection.function_type == "ExecuteCode"; }
+
+// What a piece of code is called: after its source and event.
+std::string CodeName(const Model& model, const Connection& connection) {
+  std::string name = connection.from_object >= 0 ? model.objects[connection.from_object].name
+                     : connection.from.empty()   ? "code"
+                                                 : connection.from.back();
+  if (!connection.from_item.empty()) name += "_" + connection.from_item;
+  if (!connection.when.empty() && connection.when[0] != "Notify") name += "_" + connection.when[0];
+  return CWord(name) + "_code";
+}
+
+class Functions {
+ public:
+  explicit Functions(Model& model) : model_(model) {}
+
+  void Add(int index) {
+    Connection& connection = model_.connections[index];
+    const int function = IsCode(connection) ? AddCode(connection) : AddNamed(connection.action);
+    model_.functions[function].connections.push_back(index);
+    connection.function = model_.functions[function].name;
+  }
+
+ private:
+  int AddNamed(const std::string& gil_name) {
+    const auto found = by_gil_name_.find(gil_name);
+    if (found != by_gil_name_.end()) return found->second;
+    return by_gil_name_[gil_name] = Append(CWord(gil_name), gil_name, "");
+  }
+
+  int AddCode(const Connection& connection) {
+    return Append(CodeName(model_, connection), "", connection.action);
+  }
+
+  int Append(const std::string& wish, const std::string& gil_name, const std::string& code) {
+    const std::string name = FreeWord(wish, used_);
+    used_.insert(name);
+    model_.functions.push_back({name, gil_name, code, {}});
+    return static_cast<int>(model_.functions.size()) - 1;
+  }
+
+  Model& model_;
+  std::map<std::string, int> by_gil_name_;
+  std::set<std::string> used_;
+};
+
+}  // namespace
+
+std::string CWord(const std::string& text) {
+  std::string word;
+  for (char c : text) word += IsWordByte(c) ? c : '_';
+  if (word.empty() || IsDigit(word[0])) word.insert(0, "f_");
+  if (word.size() > 60) word.resize(60);
+  return word;
+}
+
+bool IsTaken(const std::string& word) {
+  const auto is_word = [&](std::string_view known) { return known == word; };
+  return std::any_of(std::begin(kKeywords), std::end(kKeywords), is_word) ||
+         std::any_of(std::begin(kLibrary), std::end(kLibrary), is_word) || HasLibraryPrefix(word);
+}
+
+bool CallsFunction(const Connection& connection) {
+  return (connection.function_type == "CallFunction" || IsCode(connection)) &&
+         !connection.action.empty();
+}
+
+void NameFunctions(Session& session) {
+  Model& model = session.model;
+  Functions functions(model);
+  for (std::size_t i = 0; i < model.connections.size(); ++i) {
+    if (CallsFunction(model.connections[i])) functions.Add(static_cast<int>(i));
+  }
+  std::set<std::string> listed;
+  for (const Link& link : session.links) {
+    const Connection& connection = model.connections[link.connection];
+    const auto found = session.procedures.find(link.callback->procedure);
+    if (connection.function.empty() || found == session.procedures.end()) continue;
+    if (listed.insert(found->second).second) {
+      model.procedures.push_back({found->second, connection.function});
+    }
+  }
+}
+
+std::string ProgramName(const std::filesystem::path& input) {
+  std::string name = CWord(input.stem().string());
+  return name == "f_" ? "app" : name;
+}
+
+}  // namespace port
