@@ -169,6 +169,8 @@ std::string MakeReport(const ReportInput& input) {
   SetText(&data, "no_pictures", PageText(input.no_pictures));
   data.set("checked", Data(input.checked ? Data::type::bool_true : Data::type::bool_false));
   SetList(&data, "files", Files(model));
+  data.set("many_files",
+           Data(model.files.size() > 1 ? Data::type::bool_true : Data::type::bool_false));
   SetList(&data, "windows", Windows(input));
   SetList(&data, "menus", Menus(input));
   SetList(&data, "connections", Connections(model));

@@ -193,9 +193,7 @@ static void DrawHeader(Sheet& sheet, const PortObject& obj, int width) {
   }
   const std::string title = TextOf(obj, LABEL);
   const int left = std::max((width - TextWidth(title, true)) / 2, 30);
-  sheet.drawing.OpenClipped({left, 0, std::max(width - left - 4, 0), kHeader});
-  sheet.drawing.Text(0, 17, title, true);
-  sheet.drawing.Close();
+  sheet.drawing.Text(left, 17, FitText(title, width - left - 4, true), true);
 }
 
 // The corners that a window is resized by.
@@ -223,11 +221,15 @@ static Sketch DrawWindow(const Interface& interface, int object, Sheet& sheet) {
 
   sheet.drawing.Rect({0, 0, width, height}, "fill:#ccc;stroke:#333" + background);
   DrawHeader(sheet, obj, width);
-  sheet.drawing.OpenClipped({0, kHeader, width, height - kHeader - footer});
-  sheet.drawing.Rect({0, 0, width, height - kHeader - footer},
-                     "fill:#ddd;stroke:#333" + background);
+  const Box body = {0, kHeader, width, height - kHeader - footer};
+  sheet.drawing.Rect(body, "fill:#ddd;stroke:#333" + background);
+  sheet.drawing.Open(body.x, body.y, "");
   DrawContents(sheet, interface, object, 0);
   sheet.drawing.Close();
+  // What reaches beyond the body is cut there, as a window cuts it.
+  if (footer > 0) {
+    sheet.drawing.Rect({0, height - footer, width, footer}, "fill:#ccc;stroke:#333" + background);
+  }
   if (IsTrue(obj, RESIZABLE)) DrawCorners(sheet, width, height);
   return Finish(interface.model, object, kind, sheet, width, height);
 }
@@ -235,12 +237,10 @@ static Sketch DrawWindow(const Interface& interface, int object, Sheet& sheet) {
 static Sketch DrawPart(const Interface& interface, int object, Sheet& sheet) {
   const PortObject& obj = interface.model.objects[object];
   const Box box = PlaceOf(obj);
-  sheet.drawing.OpenClipped({0, 0, box.width + 2 * kMargin, box.height + 2 * kMargin});
   sheet.drawing.Open(kMargin - box.x, kMargin - box.y, TitleOf(obj));
   DrawLook(sheet, obj);
   sheet.drawing.Open(IsPane(obj) ? box.x : 0, IsPane(obj) ? box.y : 0, "");
   DrawContents(sheet, interface, object, 0);
-  sheet.drawing.Close();
   sheet.drawing.Close();
   sheet.drawing.Close();
   return Finish(interface.model, object, SketchKind::kPart, sheet, box.width + 2 * kMargin,

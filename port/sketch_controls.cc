@@ -105,12 +105,12 @@ static void DrawScrollbar(Sheet& sheet, const Box& box) {
   part(end - 6, 6, paint::kRaised);
 }
 
-// Text inside of a box, cut where the box ends.
-static void DrawInside(Sheet& sheet, const Box& box, const std::string& text) {
-  if (text.empty() || box.width <= 0 || box.height <= 0) return;
-  sheet.drawing.OpenClipped(box);
-  sheet.drawing.Text(2, 12, text);
-  sheet.drawing.Close();
+// Lines of text inside of a box, as many as have room and no longer than it is wide.
+static void DrawInside(Sheet& sheet, const Box& box, std::string_view text) {
+  for (int y = 0; !text.empty() && y + kLine <= box.height; y += kLine) {
+    sheet.drawing.Text(box.x + 2, box.y + y + 12, FitText(text, box.width - 2));
+    text.remove_prefix(std::min(text.find('\n'), text.size() - 1) + 1);
+  }
 }
 
 // Where the value of a control stands, with what the object's own size leaves for it.

@@ -39,18 +39,9 @@ void Drawing::Open(int x, int y, std::string_view title, std::string_view style)
   body_ += '>';
   if (!title.empty()) body_ += "<title>" + EscapeMarkup(title) + "</title>";
   body_ += '\n';
-  closing_ += 'g';
 }
 
-void Drawing::OpenClipped(const Box& box) {
-  body_ += "<svg" + Attributes(box) + ">\n";
-  closing_ += 's';
-}
-
-void Drawing::Close() {
-  body_ += closing_.back() == 'g' ? "</g>\n" : "</svg>\n";
-  closing_.pop_back();
-}
+void Drawing::Close() { body_ += "</g>\n"; }
 
 void Drawing::Rect(const Box& box, std::string_view style, int radius) {
   Element("rect",
@@ -99,10 +90,12 @@ std::string Drawing::Finish(int width, int height, std::string_view label) const
          Attribute("viewBox",
                    "-0.5 -0.5 " + std::to_string(width + 1) + " " + std::to_string(height + 1)) +
          " role=\"img\"" + Attribute("aria-label", label) +
-         " font-family=\"Lucida Sans, Lucida Grande, DejaVu Sans, Verdana, sans-serif\""
-         " font-size=\"12\" style=\"color:#000;fill:currentColor\">\n" +
+         " style=\"font:12px 'Lucida Sans','Lucida Grande','DejaVu Sans',Verdana,sans-serif;"
+         "color:#000;fill:currentColor\">\n" +
          body_ + "</svg>\n";
 }
+
+static bool ContinuesLetter(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
 
 int TextWidth(std::string_view text, bool bold) {
   static const std::string_view kNarrow = " .,:;'|!()[]{}`ijlIrtf";
@@ -111,8 +104,7 @@ int TextWidth(std::string_view text, bool bold) {
   int width = 0;
   for (char c : text) {
     if (c == '\n') width = 0;
-    const bool continues = (static_cast<unsigned char>(c) & 0xC0) == 0x80;
-    if (c == '\n' || continues) continue;
+    if (c == '\n' || ContinuesLetter(c)) continue;
     width += kNarrow.find(c) != std::string_view::npos     ? 4
              : kWide.find(c) != std::string_view::npos     ? 11
              : std::isupper(static_cast<unsigned char>(c)) ? 8
@@ -121,6 +113,19 @@ int TextWidth(std::string_view text, bool bold) {
     widest = std::max(widest, width);
   }
   return widest;
+}
+
+std::string FitText(std::string_view text, int width, bool bold) {
+  static const std::string_view kEllipsis = "\u2026";
+  text = text.substr(0, text.find('\n'));
+  if (TextWidth(text, bold) <= width) return std::string(text);
+  std::size_t end = 0;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (ContinuesLetter(text[i])) continue;
+    if (TextWidth(text.substr(0, i), bold) + TextWidth(kEllipsis, bold) > width) break;
+    end = i;
+  }
+  return std::string(text.substr(0, end)).append(kEllipsis);
 }
 
 // The shades of an OPEN LOOK window of the usual grey: the surface, pressed in, and shadow.

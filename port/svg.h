@@ -34,8 +34,6 @@ class Drawing {
   // What follows, up to Close(), belongs to one thing: `title` is shown while the pointer is over
   // it, `style` holds for all in it, and its places count from (x, y).
   void Open(int x, int y, std::string_view title, std::string_view style = "");
-  // The same, and nothing shows that lies outside the box.
-  void OpenClipped(const Box& box);
   void Close();
 
   void Rect(const Box& box, std::string_view style, int radius = 0);
@@ -52,11 +50,13 @@ class Drawing {
   void Element(std::string_view name, std::string_view attributes);
 
   std::string body_;
-  std::string closing_;  // the open elements, innermost last: g or s for svg
 };
 
 // The estimated width of the widest line, in the letters of a sketch.
 int TextWidth(std::string_view text, bool bold = false);
+
+// The text's first line, cut with an ellipsis where it is wider than `width`.
+std::string FitText(std::string_view text, int width, bool bold = false);
 
 // What a colour of a GIL file is in CSS: a colour name of X, "#" and hexadecimal digits, or one of
 // OPEN LOOK's own names (BG1 and so on). Empty when it is none of them. A name that CSS does not
