@@ -9,7 +9,6 @@ namespace {
 
 using kainjow::mustache::list;
 
-
 std::string ConditionWord(const std::string& condition) {
   if (condition == "set") return "WHEN_SET";
   return condition == "unset" ? "WHEN_UNSET" : "ALWAYS";

@@ -138,7 +138,10 @@ std::vector<std::string> Folder::Finish() {
   if (!error_.empty()) return {};
   std::error_code error;
   if (!fs::exists(target_, error)) {
-    chmod((beside_ / "files").c_str(), 0777 & ~umask(umask(0)));
+    // What mkdtemp() made is closed to others; the program's folder is as any new folder.
+    const mode_t mask = umask(0);
+    umask(mask);
+    chmod((beside_ / "files").c_str(), 0777 & ~mask);
     fs::rename(beside_ / "files", target_, error);
     if (error) error_ = target_.string() + ": " + error.message();
     return notes_;

@@ -96,11 +96,11 @@ struct Connection {
   bool in_module = false;  // whether the module makes the call (kModule, and kFunction mostly)
   std::string function;    // kFunction: name in callbacks.c
   std::string call;        // what is called, as in C: ZoManageCB("(WL)[x]"), quit(); empty if lost
-  std::string procedure;        // when no function of the user's is called: what is instead,
+  std::string procedure;   // when no function of the user's is called: what is instead,
   std::string procedure_widget;  // for SetLabel and SetValue the widget that is set,
   std::string argument;          // and the argument or the new text
-  std::vector<Source> sources;  // the widgets and events that call it
-  std::string reason;           // kLost: why; else a remark, mostly empty
+  std::vector<Source> sources;   // the widgets and events that call it
+  std::string reason;            // kLost: why; else a remark, mostly empty
 
   // Those of a project come behind those of its files.
   bool IsBefore(const Connection& other) const;
@@ -165,8 +165,8 @@ struct Model {
   std::vector<PortWindow> windows;
   std::vector<PortFunction> functions;
   std::vector<PortProcedure> procedures;
-  std::vector<std::string> messages;         // of the converter, line by line
-  std::vector<std::string> mends;            // what was mended in the module, line by line
+  std::vector<std::string> messages;  // of the converter, line by line
+  std::vector<std::string> mends;     // what was mended in the module, line by line
   std::vector<PortBitmap> bitmaps;
   std::vector<ButtonGlyph> button_glyphs;
   std::vector<std::string> missing_bitmaps;  // files that the module names and nobody has

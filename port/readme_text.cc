@@ -12,9 +12,9 @@ std::string ReadmeText(const Model& model, const Templates& templates) {
   data.set("name", model.name);
   data.set("class", ClassName(model));
   data.set("function_count", std::to_string(model.functions.size()));
-  const auto in_file = std::count_if(
-      model.connections.begin(), model.connections.end(),
-      [](const Connection& c) { return !c.in_module && !c.sources.empty(); });
+  const auto in_file =
+      std::count_if(model.connections.begin(), model.connections.end(),
+                    [](const Connection& c) { return !c.in_module && !c.sources.empty(); });
   data.set("connection_count", std::to_string(in_file));
   Data lost{kainjow::mustache::list{}};
   for (const Connection& connection : model.connections) {

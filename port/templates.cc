@@ -19,12 +19,10 @@ fs::path ProgramFolder() {
 
 Templates::Templates(const fs::path& own) {
   if (!own.empty()) folders_.push_back(own);
-  // Beside the program in an installed tree, which may have been moved; else where it was built.
+  // As seen from the program, in an installed tree, which may have been moved, and where it was
+  // built.
   folders_.push_back(ProgramFolder() / ".." / "share" / "pandrel" / "port");
   folders_.push_back(ProgramFolder() / ".." / "share" / "pandrel");
-  for (const char* folder : {PANDREL_PORT_SOURCES "/port/templates", PANDREL_PORT_SOURCES "/runtime"}) {
-    folders_.emplace_back(folder);
-  }
 }
 
 std::string Templates::Read(const std::string& name) const {
