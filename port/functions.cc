@@ -259,8 +259,13 @@ void NameFunctions(Session& session) {
 }
 
 std::string ProgramName(const std::filesystem::path& input) {
-  std::string name = CWord(input.stem().string());
-  return name == "f_" ? "app" : name;
+  // Targets of the makefile and the names of the other files.
+  constexpr std::string_view kTaken[] = {"all",  "run",       "install",     "clean", "Makefile",
+                                         "main", "callbacks", "connections", "zo",    "letters",
+                                         "f_",   "README",    "bitmaps",     "report"};
+  const std::string name = CWord(input.stem().string());
+  const bool taken = std::find(std::begin(kTaken), std::end(kTaken), name) != std::end(kTaken);
+  return taken ? name + "_app" : name;
 }
 
 }  // namespace port
