@@ -63,9 +63,16 @@ void KeepOrder(Session& session) {
                    });
 }
 
-std::string CallText(const Session& session, const Connection& connection) {
-  if (!connection.function.empty()) return connection.function + "()";
-  return PredefinedCall(session, connection).Text();
+void SettleCall(const Session& session, Connection& connection) {
+  if (!connection.function.empty()) {
+    connection.call = connection.function + "()";
+    return;
+  }
+  const Call call = PredefinedCall(session, connection);
+  connection.call = call.Text();
+  connection.procedure = call.procedure;
+  connection.procedure_widget = call.widget;
+  connection.argument = call.widget.empty() ? call.argument : call.text;
 }
 
 void Settle(Session& session, int index) {
@@ -87,7 +94,7 @@ void Settle(Session& session, int index) {
     }
     return;
   }
-  connection.call = CallText(session, connection);
+  SettleCall(session, connection);
   connection.fate = !connection.function.empty() ? ConnectionFate::kFunction
                     : connection.in_module       ? ConnectionFate::kModule
                                                  : ConnectionFate::kConnections;

@@ -270,4 +270,23 @@ Model ConvertInterface(const Input& input) {
   return model;
 }
 
+std::vector<std::string> InterfacesOf(const fs::path& project_file) {
+  std::vector<std::string> names;
+  const fs::path file = fs::absolute(project_file);
+  Surroundings surroundings(file.parent_path(), "/dev/null");
+  ResetSession();
+  try {
+    if (!std::freopen(file.c_str(), "r", stdin)) Error("Cannot read the file");
+    Value* interfaces = nullptr;
+    if (yyparse() == 0 && project) GetAttrValue(project, INTERFACES, &interfaces, 0);
+    for (const Value* name = interfaces; name; name = name->next) {
+      names.emplace_back(ValueText(name));
+    }
+  } catch (const Ended&) {
+    names.clear();
+  }
+  ResetSession();
+  return names;
+}
+
 }  // namespace port

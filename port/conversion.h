@@ -22,6 +22,10 @@ struct Input {
 // Standard input is at its end afterwards; working folder and output streams are as before.
 Model ConvertInterface(const Input& input);
 
+// The interface files that a project names; none for anything else. Standard input is at its end
+// afterwards.
+std::vector<std::string> InterfacesOf(const std::filesystem::path& project_file);
+
 }  // namespace port
 
 #endif

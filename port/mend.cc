@@ -8,6 +8,8 @@
 #include "gil/object.h"
 #include "gil/tokens.h"
 #include "osi/arena.h"
+#include "port/bitmaps.h"
+#include "port/colors.h"
 #include "port/events.h"
 #include "port/targets.h"
 #include "uilfix/literals.h"
@@ -156,6 +158,20 @@ void RebuildCallbacks(const Session& session, const Widg* widg,
   object.entries = std::move(entries);
 }
 
+// Colours that only OPEN LOOK's server knew.
+void MendColors(Session& session, uilfix::Module& module) {
+  uilfix::ForEachObject(module, [&](uilfix::Object& object) {
+    uilfix::ForEachEntry<uilfix::Argument>(object, [&](uilfix::Argument& argument) {
+      if (!argument.value.starts_with("color(\"") || !argument.value.ends_with("\")")) return;
+      const std::string name = argument.value.substr(7, argument.value.size() - 9);
+      const std::string known = KnownColor(name);
+      if (known == name) return;
+      argument.value = "color(\"" + known + "\")";
+      Note(session, "colour " + name + " of " + object.name + " is now " + known);
+    });
+  });
+}
+
 std::vector<uilfix::Object*> ObjectsOf(uilfix::Module& module) {
   std::vector<uilfix::Object*> objects;
   uilfix::ForEachObject(module, [&](uilfix::Object& object) { objects.push_back(&object); });
@@ -212,6 +228,8 @@ void MendModule(Session& session, const std::string& text) {
     const Widg* widg = session.written[i];
     if (widg->callbacks) RebuildCallbacks(session, widg, order, *objects[i]);
   }
+  TakeBitmaps(session, module);
+  MendColors(session, module);
   uilfix::Report report;
   uilfix::FixModule(module, {}, report);
   for (const uilfix::Change& change : report.Changes()) {
@@ -226,6 +244,7 @@ void MendModule(Session& session, const std::string& text) {
     session.procedures[declared[i]] = mended_procedures[i];
   }
   session.model.module = uilfix::RenderModule(module);
+  TakeButtonGlyphs(session);
 }
 
 }  // namespace port

@@ -96,8 +96,11 @@ struct Connection {
   bool in_module = false;  // whether the module makes the call (kModule, and kFunction mostly)
   std::string function;    // kFunction: name in callbacks.c
   std::string call;        // what is called, as in C: ZoManageCB("(WL)[x]"), quit(); empty if lost
-  std::vector<Source> sources;  // the widgets and events that call it
-  std::string reason;           // kLost: why; else a remark, mostly empty
+  std::string procedure;   // when no function of the user's is called: what is instead,
+  std::string procedure_widget;  // for SetLabel and SetValue the widget that is set,
+  std::string argument;          // and the argument or the new text
+  std::vector<Source> sources;   // the widgets and events that call it
+  std::string reason;            // kLost: why; else a remark, mostly empty
 
   // Those of a project come behind those of its files.
   bool IsBefore(const Connection& other) const;
@@ -141,6 +144,18 @@ struct PortProcedure {
   std::string function;     // in C
 };
 
+// A bitmap that the module or the resources name.
+struct PortBitmap {
+  std::string path;   // relative to the program's folder, no way out of it
+  std::string bytes;  // of the file
+};
+
+// A button that shows a glyph, which the module does not say.
+struct ButtonGlyph {
+  std::string widget;
+  std::string path;  // of a bitmap of the model
+};
+
 struct Model {
   std::string error;           // why there is no interface; empty if all is well
   std::string name;            // of the program: the input's base name made a C word
@@ -150,8 +165,10 @@ struct Model {
   std::vector<PortWindow> windows;
   std::vector<PortFunction> functions;
   std::vector<PortProcedure> procedures;
-  std::vector<std::string> messages;         // of the converter, line by line
-  std::vector<std::string> mends;            // what was mended in the module, line by line
+  std::vector<std::string> messages;  // of the converter, line by line
+  std::vector<std::string> mends;     // what was mended in the module, line by line
+  std::vector<PortBitmap> bitmaps;
+  std::vector<ButtonGlyph> button_glyphs;
   std::vector<std::string> missing_bitmaps;  // files that the module names and nobody has
   std::string module;                        // text of app.uil as mended
 };

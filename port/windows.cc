@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "gil/tokens.h"
+#include "port/colors.h"
 #include "widget/tree.h"
 
 namespace port {
@@ -32,8 +32,8 @@ void ReadResource(const Resource& resource, PortWindow& window) {
   } else if (name.starts_with("XmN")) {
     const bool color = value.starts_with("color(") && value.ends_with(")");
     window.resources.emplace_back(
-        name.substr(3),
-        color ? GilText(value.substr(6, value.size() - 7).c_str()) : GilText(resource.value));
+        name.substr(3), color ? KnownColor(GilText(value.substr(6, value.size() - 7).c_str()))
+                              : GilText(resource.value));
   }
 }
 

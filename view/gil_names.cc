@@ -25,10 +25,14 @@ std::string TakeValue(std::string_view text) {
   return std::string(text.substr(0, end));
 }
 
-std::string WidgetForm(const std::string& gil_name) {
-  std::string name = gil_name.substr(0, kCutLength);
-  if (!name.empty()) name[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(name[0])));
-  return name;
+// The value of the first attribute of this name; empty when there is none.
+std::string AttributeOf(std::string_view object, std::string_view keyword) {
+  for (std::size_t at = object.find(keyword); at != std::string_view::npos;
+       at = object.find(keyword, at + 1)) {
+    const std::string_view after = object.substr(at + keyword.size());
+    if (!after.empty() && IsBlank(after[0])) return TakeValue(after);
+  }
+  return "";
 }
 
 }  // namespace
@@ -46,18 +50,37 @@ std::vector<std::string> ReadGilNames(std::string_view gil) {
   return names;
 }
 
-std::vector<std::string> ReadGilNamesFromFile(const std::filesystem::path& file) {
+std::vector<std::string> ReadPinnedPopups(std::string_view gil) {
+  constexpr std::string_view kObject = ":type";
+  std::vector<std::string> names;
+  for (std::size_t at = gil.find(kObject); at != std::string_view::npos;) {
+    const std::size_t next = gil.find(kObject, at + 1);
+    const std::string_view object = gil.substr(at, next - at);
+    if (AttributeOf(object, kObject) == ":popup-window" && AttributeOf(object, ":pinned") == "t") {
+      names.push_back(AttributeOf(object, ":name"));
+    }
+    at = next;
+  }
+  return names;
+}
+
+std::string ReadGilText(const std::filesystem::path& file) {
   const std::string text = uilfix::ReadFile(file.string()).value_or("");
-  std::vector<std::string> names = ReadGilNames(text);
+  std::string all = text;
   std::error_code error;
   for (const auto& entry : std::filesystem::directory_iterator(file.parent_path(), error)) {
     const std::string other = entry.path().filename().string();
     if (entry.path() == file || text.find(other) == std::string::npos) continue;
     if (!entry.is_regular_file(error)) continue;
-    const auto more = ReadGilNames(uilfix::ReadFile(entry.path().string()).value_or(""));
-    names.insert(names.end(), more.begin(), more.end());
+    all += "\n" + uilfix::ReadFile(entry.path().string()).value_or("");
   }
-  return names;
+  return all;
+}
+
+std::string WidgetForm(const std::string& gil_name) {
+  std::string name = gil_name.substr(0, kCutLength);
+  if (!name.empty()) name[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(name[0])));
+  return name;
 }
 
 std::string GuessGilName(const std::vector<std::string>& gil_names, std::string_view widget) {

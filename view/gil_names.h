@@ -13,12 +13,19 @@ namespace view {
 // Every name that a GIL text gives to an object, in its order.
 std::vector<std::string> ReadGilNames(std::string_view gil);
 
-// The names of a GIL file; of a project, those of the interface files in its folder as well. Empty
-// when the file cannot be read.
-std::vector<std::string> ReadGilNamesFromFile(const std::filesystem::path& file);
+// The names of the popup windows of a GIL text whose pins are in at the start.
+std::vector<std::string> ReadPinnedPopups(std::string_view gil);
+
+// The text of a GIL file; of a project, with those of the interface files in its folder behind it.
+// Empty when the file cannot be read.
+std::string ReadGilText(const std::filesystem::path& file);
+
+// The widget's name that the converter makes of an object's, unless another object has it already:
+// the first letter lowered and the whole cut to 30 characters.
+std::string WidgetForm(const std::string& gil_name);
 
 // The GIL name that the widget's name was most likely made from: the longest that the widget's
-// begins with, its first letter lowered and the whole cut to 30 characters. Empty for none.
+// name begins with, in its WidgetForm(). Empty for none.
 std::string GuessGilName(const std::vector<std::string>& gil_names, std::string_view widget);
 
 }  // namespace view

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "input.h"
 
-#include <stdlib.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -11,7 +10,10 @@
 
 #include "compiler.h"
 #include "gil_names.h"
+#include "open_look_colors.h"
 #include "process.h"
+#include "shadow.h"
+#include "stray_children.h"
 #include "uilfix/module_files.h"
 #include "uilfix/rewrites.h"
 
@@ -34,31 +36,48 @@ Interface Failure(const std::string& error) {
   return interface;
 }
 
-// Makes `shadow` a folder in which the files of `original` can be read and new ones written: the
-// converter puts the bitmaps of glyphs beside them, and looking at an interface should leave no
-// files behind. Folders, `depth` levels of them, are made anew; deeper ones are the user's own.
-void MakeShadow(const fs::path& original, const fs::path& shadow, int depth) {
-  std::error_code error;
-  fs::create_directory(shadow, error);
-  for (const auto& entry : fs::directory_iterator(original, error)) {
-    const fs::path target = shadow / entry.path().filename();
-    if (depth > 0 && entry.is_directory(error) && !entry.is_symlink(error)) {
-      MakeShadow(entry.path(), target, depth - 1);
+// The converter's options with the folders of -D as it finds them in `shadow`, where it runs. Its
+// own user's paths begin where the user is, so they do here; where nothing is there, beside the
+// file.
+std::vector<std::string> ShadowedOptions(const Options& options, const fs::path& file,
+                                         const fs::path& scratch, const fs::path& shadow) {
+  constexpr std::string_view kFolder = "-D";
+  std::vector<std::string> shadowed;
+  int outside = 0;
+  for (const std::string& option : options.converter_options) {
+    const fs::path named = option.starts_with(kFolder) ? option.substr(kFolder.size()) : "";
+    std::error_code error;
+    if (named.empty()) {
+      shadowed.push_back(option);
+      continue;
+    }
+    fs::path original = fs::absolute(named, error);
+    if (!fs::is_directory(original, error)) original = file.parent_path() / named;
+    const fs::path normal = named.lexically_normal();
+    const bool inside = named.is_relative() && *normal.begin() != ".." && normal != ".";
+    if (fs::equivalent(original, file.parent_path(), error) && normal == ".") {
+      shadowed.push_back(option);
+    } else if (inside) {
+      PutShadow(original, shadow, normal);
+      shadowed.push_back(option);
     } else {
-      fs::create_symlink(entry.path(), target, error);
+      const fs::path target = scratch / ("D" + std::to_string(++outside));
+      MakeShadow(original, target, 0);
+      shadowed.push_back(std::string(kFolder) + target.string());
     }
   }
+  return shadowed;
 }
 
 // Converts the GIL file into `uil`. Returns what went wrong, or nothing.
-std::string Convert(const Options& options, const fs::path& gil, const fs::path& folder,
-                    const fs::path& uil) {
+std::string Convert(const Options& options, const fs::path& gil, const fs::path& scratch,
+                    const fs::path& folder, const fs::path& uil) {
   const auto program = FindProgram("pandrel");
   if (!program) return "the converter \"pandrel\" is neither beside this program nor on PATH\n";
   Command command;
   command.arguments.push_back(program->string());
-  command.arguments.insert(command.arguments.end(), options.converter_options.begin(),
-                           options.converter_options.end());
+  const auto given = ShadowedOptions(options, gil, scratch, folder);
+  command.arguments.insert(command.arguments.end(), given.begin(), given.end());
   command.arguments.push_back(uil.string());
   command.input = gil;
   command.folder = folder;
@@ -102,10 +121,7 @@ std::string MessageText(const CompilerMessage& message, const std::vector<std::s
   std::string text = message.severity + ": " + message.text;
   if (message.line > 0) text += " (line " + std::to_string(message.line) + ")";
   if (message.object.empty()) return text + "\n";
-  text += ", in widget " + message.object;
-  const std::string gil_name = GuessGilName(gil_names, message.object);
-  if (!gil_name.empty()) text += " of GIL object " + gil_name;
-  return text + "\n";
+  return text + ", in widget " + WidgetAndObject(gil_names, message.object) + "\n";
 }
 
 std::string CompilationError(const Options& options, const Compilation& compilation,
@@ -122,16 +138,31 @@ std::string CompilationError(const Options& options, const Compilation& compilat
   return text + NameClashes(module);
 }
 
-Interface FromModule(const Options& options, const ScratchFolder& scratch, const fs::path& folder,
+// Takes out of the module what Motif would crash on, with a line on standard error for each.
+// Returns whether there was nothing.
+bool LeaveOutStrayChildren(uilfix::Module& module, const std::vector<std::string>& gil_names) {
+  const auto strays = RemoveStrayChildren(module);
+  for (const StrayChild& stray : strays) {
+    std::cerr << "pandrel-view: widget " << WidgetAndObject(gil_names, stray.child)
+              << " is left out: it stands in " << stray.parent << ", and " << stray.parent_class
+              << " cannot have it\n";
+  }
+  return strays.empty();
+}
+
+Interface FromModule(const Options& options, const fs::path& scratch, const fs::path& folder,
                      std::string text, const std::vector<std::string>& gil_names) {
   if (options.fix) text = Mend(options, text);
   Interface interface;
   interface.folder = folder;
   interface.has_module = true;
   interface.module = uilfix::ParseModule(text);
-  interface.uid = scratch.Path() / "module.uid";
-  const fs::path uil = scratch.Path() / "module.uil";
-  if (!uilfix::WriteFile(uil.string(), text)) {
+  interface.gil_names = gil_names;
+  ReplaceOpenLookColors(interface.module);
+  interface.whole = LeaveOutStrayChildren(interface.module, gil_names);
+  interface.uid = scratch / "module.uid";
+  const fs::path uil = scratch / "module.uil";
+  if (!uilfix::WriteFile(uil.string(), uilfix::RenderModule(interface.module))) {
     return Failure(uil.string() + ": " + std::strerror(errno) + "\n");
   }
   const Compilation compilation = Compile(uil, interface.uid, interface.module);
@@ -141,20 +172,24 @@ Interface FromModule(const Options& options, const ScratchFolder& scratch, const
   return interface;
 }
 
-Interface FromGil(const Options& options, const ScratchFolder& scratch, const fs::path& file) {
-  const fs::path folder = scratch.Path() / "files";
+Interface FromGil(const Options& options, const fs::path& scratch, const fs::path& file) {
+  const fs::path folder = scratch / "files";
   MakeShadow(file.parent_path(), folder, 1);
-  const fs::path uil = scratch.Path() / "converted.uil";
-  const std::string error = Convert(options, file, folder, uil);
+  const fs::path uil = scratch / "converted.uil";
+  const std::string error = Convert(options, file, scratch, folder, uil);
   if (!error.empty()) return Failure(error);
   const auto text = uilfix::ReadFile(uil.string());
   if (!text) return Failure("the converter wrote no module\n");
-  return FromModule(options, scratch, folder, *text, ReadGilNamesFromFile(file));
+  const std::string gil = ReadGilText(file);
+  Interface interface = FromModule(options, scratch, folder, *text, ReadGilNames(gil));
+  interface.pinned_popups = ReadPinnedPopups(gil);
+  return interface;
 }
 
 Interface FromUid(const fs::path& file) {
   Interface interface;
   interface.uid = file;
+  interface.compiled = true;
   interface.folder = file.parent_path();
   fs::path uil = file;
   if (const auto text = uilfix::ReadFile(uil.replace_extension(".uil").string())) {
@@ -166,21 +201,12 @@ Interface FromUid(const fs::path& file) {
 
 }  // namespace
 
-ScratchFolder::ScratchFolder() {
-  std::error_code error;
-  std::string name = (fs::temp_directory_path(error) / "pandrel-view-XXXXXX").string();
-  if (mkdtemp(name.data())) path_ = name;
+std::string WidgetAndObject(const std::vector<std::string>& gil_names, const std::string& widget) {
+  const std::string gil_name = GuessGilName(gil_names, widget);
+  return gil_name.empty() ? widget : widget + " of GIL object " + gil_name;
 }
 
-ScratchFolder::~ScratchFolder() {
-  std::error_code error;
-  if (!path_.empty()) fs::remove_all(path_, error);
-}
-
-Interface PrepareInterface(const Options& options, const ScratchFolder& scratch) {
-  if (scratch.Path().empty()) {
-    return Failure(std::string("cannot make a temporary folder: ") + std::strerror(errno) + "\n");
-  }
+Interface PrepareInterface(const Options& options, const fs::path& scratch) {
   const fs::path file = fs::absolute(options.file);
   if (access(file.c_str(), R_OK) != 0) {
     return Failure(options.file + ": " + std::strerror(errno) + "\n");

@@ -7,37 +7,29 @@
 #include <string>
 #include <vector>
 
-#include "view_options.h"
 #include "uilfix/module.h"
+#include "view_options.h"
 
 namespace view {
-
-// A new folder that is removed, with everything in it, at the end of its scope.
-class ScratchFolder {
- public:
-  ScratchFolder();
-  ~ScratchFolder();
-  ScratchFolder(const ScratchFolder&) = delete;
-  ScratchFolder& operator=(const ScratchFolder&) = delete;
-
-  // Empty when it could not be made.
-  const std::filesystem::path& Path() const { return path_; }
-
- private:
-  std::filesystem::path path_;
-};
 
 struct Interface {
   std::string error;          // why there is nothing to show, with line ends; empty if all is well
   std::filesystem::path uid;  // the compiled module
   std::filesystem::path folder;  // where its bitmaps are
+  bool compiled = false;         // the user's file is a compiled module already
   bool has_module = false;       // false for a .uid without its .uil beside it
   uilfix::Module module;
+  std::vector<std::string> gil_names;      // of the objects in the GIL file, if that is at hand
+  std::vector<std::string> pinned_popups;  // among them, the popups whose pins are in
+  bool whole = true;                       // false when something had to be left out
 };
 
 // Does all that comes before the first window. Notes go to standard error. The user's folders are
-// only read: what the converter and the compiler write goes to `scratch`.
-Interface PrepareInterface(const Options& options, const ScratchFolder& scratch);
+// only read: what the converter and the compiler write goes to the folder `scratch`.
+Interface PrepareInterface(const Options& options, const std::filesystem::path& scratch);
+
+// An object as messages name it: its widget, and its name in the GIL file where that is known.
+std::string WidgetAndObject(const std::vector<std::string>& gil_names, const std::string& widget);
 
 }  // namespace view
 

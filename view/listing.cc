@@ -12,7 +12,7 @@
 
 #include <memory>
 
-#include "screenshots.h"
+#include "label_text.h"
 #include "widget_tree.h"
 
 namespace view {
@@ -37,31 +37,10 @@ std::string Quoted(const char* text) {
   return quoted + '"';
 }
 
-// The text of a compound string, a line end for each separator.
-Text PlainText(XmString string) {
-  char newline[] = "\n";
-  XmString separator = XmStringSeparatorCreate();
-  Arg arguments[2];
-  XtSetArg(arguments[0], XmNpattern, newline);
-  XtSetArg(arguments[1], XmNsubstitute, separator);
-  XmParseMapping mapping = XmParseMappingCreate(arguments, 2);
-  Text text(static_cast<char*>(
-      XmStringUnparse(string, nullptr, XmCHARSET_TEXT, XmCHARSET_TEXT, &mapping, 1, XmOUTPUT_ALL)));
-  XmParseMappingFree(mapping);
-  XmStringFree(separator);
-  return text;
-}
-
 std::string LabelText(Widget widget) {
-  XmString label = nullptr;
   unsigned char type = XmSTRING;
-  XtVaGetValues(widget, XmNlabelString, &label, XmNlabelType, &type, nullptr);
-  std::string text = " pixmap";
-  if (type == XmSTRING) {
-    text = " label=" + Quoted(PlainText(label).get());
-  }
-  XmStringFree(label);
-  return text;
+  XtVaGetValues(widget, XmNlabelType, &type, nullptr);
+  return type == XmSTRING ? " label=" + Quoted(LabelString(widget).c_str()) : " pixmap";
 }
 
 std::string Contents(Widget widget) {
@@ -134,13 +113,11 @@ void ListBelow(Widget widget, int depth, int x, int y, std::ostream& out) {
 
 }  // namespace
 
-void ListWidgets(const Windows& windows, std::ostream& out) {
-  ForEachShownWindow(windows, [&](const Window& window) { ListBelow(window.shell, 0, 0, 0, out); });
-}
+void ListWindow(const Window& window, std::ostream& out) { ListBelow(window.shell, 0, 0, 0, out); }
 
 void ListShownWidgets(const Windows& windows, std::ostream& out) {
   for (const Window& window : windows.windows) {
-    if (IsShown(window)) ListBelow(window.shell, 0, 0, 0, out);
+    if (IsShown(window)) ListWindow(window, out);
   }
 }
 

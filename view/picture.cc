@@ -2,6 +2,7 @@
 #include "picture.h"
 
 #include <X11/Xutil.h>
+#include <X11/extensions/Xcomposite.h>
 #include <png.h>
 
 #include <algorithm>
@@ -27,7 +28,8 @@ png_byte Channel(unsigned long pixel, unsigned long mask) {
   return static_cast<png_byte>((pixel & mask) / low * 255 / highest);
 }
 
-Rows ReadImage(XImage* image) {
+// `visual` tells which bits are which colour; an image of a pixmap does not.
+Rows ReadImage(XImage* image, const Visual& visual) {
   Rows rows;
   rows.width = static_cast<unsigned>(image->width);
   rows.height = static_cast<unsigned>(image->height);
@@ -35,7 +37,7 @@ Rows ReadImage(XImage* image) {
   for (int y = 0; y < image->height; ++y) {
     for (int x = 0; x < image->width; ++x) {
       const unsigned long pixel = XGetPixel(image, x, y);
-      for (unsigned long mask : {image->red_mask, image->green_mask, image->blue_mask}) {
+      for (unsigned long mask : {visual.red_mask, visual.green_mask, visual.blue_mask}) {
         rows.bytes.push_back(Channel(pixel, mask));
       }
     }
@@ -43,10 +45,41 @@ Rows ReadImage(XImage* image) {
   return rows;
 }
 
+using Image = std::unique_ptr<XImage, void (*)(XImage*)>;
+
+void DestroyImage(XImage* image) {
+  if (image) XDestroyImage(image);
+}
+
+bool HasComposite(Display* display) {
+  int event = 0;
+  int error = 0;
+  int major = 0;
+  int minor = 3;  // window pixmaps came with 0.2
+  return XCompositeQueryExtension(display, &event, &error) &&
+         XCompositeQueryVersion(display, &major, &minor) && (major > 0 || minor >= 2);
+}
+
+// From the server's own picture of the window, whole and without what lies over it.
+Image GrabApart(Display* display, ::Window window, const XWindowAttributes& at) {
+  const ::Window top = TopWindow(display, window);
+  XWindowAttributes top_at;
+  int x = 0;
+  int y = 0;
+  ::Window child = None;
+  if (!XGetWindowAttributes(display, top, &top_at)) return {nullptr, DestroyImage};
+  XTranslateCoordinates(display, window, top, 0, 0, &x, &y, &child);
+  const Pixmap pixmap = XCompositeNameWindowPixmap(display, top);
+  // The picture begins at the outer corner of the border.
+  XImage* image = XGetImage(display, pixmap, x + top_at.border_width, y + top_at.border_width,
+                            static_cast<unsigned>(at.width), static_cast<unsigned>(at.height),
+                            AllPlanes, ZPixmap);
+  XFreePixmap(display, pixmap);
+  return {image, DestroyImage};
+}
+
 // The part of the window that lies on the screen; null when nothing does.
-XImage* GrabWindow(Display* display, ::Window window) {
-  XWindowAttributes at;
-  if (!XGetWindowAttributes(display, window, &at) || at.map_state != IsViewable) return nullptr;
+Image GrabFromScreen(Display* display, ::Window window, const XWindowAttributes& at) {
   int x = 0;
   int y = 0;
   ::Window child = None;
@@ -55,21 +88,49 @@ XImage* GrabWindow(Display* display, ::Window window) {
   const int top = std::max(0, -y);
   const int right = std::min(at.width, WidthOfScreen(at.screen) - x);
   const int bottom = std::min(at.height, HeightOfScreen(at.screen) - y);
-  if (left >= right || top >= bottom) return nullptr;
-  return XGetImage(display, window, left, top, static_cast<unsigned>(right - left),
-                   static_cast<unsigned>(bottom - top), AllPlanes, ZPixmap);
+  if (left >= right || top >= bottom) return {nullptr, DestroyImage};
+  return {XGetImage(display, window, left, top, static_cast<unsigned>(right - left),
+                    static_cast<unsigned>(bottom - top), AllPlanes, ZPixmap),
+          DestroyImage};
 }
+
+bool kept_apart = false;
 
 }  // namespace
 
+::Window TopWindow(Display* display, ::Window window) {
+  for (;;) {
+    ::Window root = None;
+    ::Window parent = None;
+    ::Window* children = nullptr;
+    unsigned count = 0;
+    if (!XQueryTree(display, window, &root, &parent, &children, &count)) return window;
+    if (children) XFree(children);
+    if (parent == root || parent == None) return window;
+    window = parent;
+  }
+}
+
+bool KeepPicturesApart(Display* display) {
+  kept_apart = HasComposite(display);
+  if (kept_apart) {
+    XCompositeRedirectSubwindows(display, DefaultRootWindow(display), CompositeRedirectAutomatic);
+  }
+  return kept_apart;
+}
+
 std::string WritePicture(Widget shell, const std::filesystem::path& file) {
-  const std::unique_ptr<XImage, void (*)(XImage*)> image(
-      GrabWindow(XtDisplay(shell), XtWindow(shell)), [](XImage* grabbed) {
-        if (grabbed) XDestroyImage(grabbed);
-      });
+  Display* display = XtDisplay(shell);
+  const ::Window window = XtWindow(shell);
+  XWindowAttributes at;
+  if (!XGetWindowAttributes(display, window, &at) || at.map_state != IsViewable) {
+    return "the window is not on the screen";
+  }
+  const Image image =
+      kept_apart ? GrabApart(display, window, at) : GrabFromScreen(display, window, at);
   if (!image) return "the window is not on the screen";
-  if (image->red_mask == 0) return "the screen has no true colours";
-  const Rows rows = ReadImage(image.get());
+  if (at.visual->red_mask == 0) return "the screen has no true colours";
+  const Rows rows = ReadImage(image.get(), *at.visual);
   png_image png{};
   png.version = PNG_IMAGE_VERSION;
   png.width = rows.width;

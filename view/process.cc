@@ -10,6 +10,9 @@
 #include <cerrno>
 #include <cstdlib>
 #include <sstream>
+#include <thread>
+
+#include "signals.h"
 
 namespace view {
 namespace {
@@ -18,8 +21,29 @@ using Clock = std::chrono::steady_clock;
 
 constexpr int kCannotStart = 127;
 
-// In the child: becomes the program, or ends.
-[[noreturn]] void Become(const Command& command, int output) {
+// Collects what comes through `output` until it ends. Returns false when the time is over first, or
+// this program is told to end.
+bool Listen(int output, Clock::time_point end, std::string& text) {
+  for (;;) {
+    const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(end - Clock::now());
+    if (left.count() <= 0) return false;
+    pollfd ready[] = {{output, POLLIN, 0}};
+    const int count = WaitFor(ready, left);
+    if (StopSignal() != 0) return false;
+    if (count == 0) continue;
+    char buffer[4096];
+    const ssize_t size = read(output, buffer, sizeof buffer);
+    if (size < 0 && errno == EINTR) continue;
+    if (size <= 0) return true;
+    text.append(buffer, static_cast<std::size_t>(size));
+  }
+}
+
+}  // namespace
+
+void Become(const Command& command, int output, int at_parents_end) {
+  setpgid(0, 0);
+  ReleaseSignalsInChild(at_parents_end);
   const char* input = command.input.empty() ? "/dev/null" : command.input.c_str();
   const int in = open(input, O_RDONLY);
   if (in < 0 || dup2(in, STDIN_FILENO) < 0 || dup2(output, STDOUT_FILENO) < 0 ||
@@ -36,24 +60,18 @@ constexpr int kCannotStart = 127;
   _exit(kCannotStart);
 }
 
-// Collects what comes through `output` until it ends. Returns false when the time is over first.
-bool Listen(int output, Clock::time_point end, std::string& text) {
-  for (;;) {
-    const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(end - Clock::now());
-    if (left.count() <= 0) return false;
-    pollfd ready{output, POLLIN, 0};
-    const int count = poll(&ready, 1, static_cast<int>(left.count()));
-    if (count < 0 && errno == EINTR) continue;
-    if (count <= 0) return false;
-    char buffer[4096];
-    const ssize_t size = read(output, buffer, sizeof buffer);
-    if (size < 0 && errno == EINTR) continue;
-    if (size <= 0) return true;
-    text.append(buffer, static_cast<std::size_t>(size));
+int EndChild(pid_t child, std::chrono::milliseconds limit, int signal) {
+  const auto end = Clock::now() + limit;
+  int status = 0;
+  while (Clock::now() < end) {
+    if (waitpid(child, &status, WNOHANG) == child) return status;
+    std::this_thread::sleep_for(std::chrono::milliseconds(5));
   }
+  kill(child, signal);
+  while (waitpid(child, &status, 0) < 0 && errno == EINTR) {
+  }
+  return status;
 }
-
-}  // namespace
 
 Outcome RunCommand(const Command& command) {
   Outcome outcome;
@@ -65,11 +83,13 @@ Outcome RunCommand(const Command& command) {
     close(ends[1]);
     return outcome;
   }
-  if (child == 0) Become(command, ends[1]);
+  if (child == 0) Become(command, ends[1], SIGKILL);
+  setpgid(child, child);
   close(ends[1]);
-  outcome.timed_out = !Listen(ends[0], Clock::now() + command.limit, outcome.output);
+  const bool ended = Listen(ends[0], Clock::now() + command.limit, outcome.output);
+  outcome.timed_out = !ended && StopSignal() == 0;
   close(ends[0]);
-  if (outcome.timed_out) kill(child, SIGKILL);
+  if (!ended) kill(-child, SIGKILL);
   int status = 0;
   while (waitpid(child, &status, 0) < 0 && errno == EINTR) {
   }

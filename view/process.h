@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
-// Running the converter and the compiler: found, started, watched and listened to.
+// Running the converter, the compiler and the X server: found, started, watched and listened to.
 #ifndef PANDREL_VIEW_PROCESS_H
 #define PANDREL_VIEW_PROCESS_H
+
+#include <sys/types.h>
 
 #include <chrono>
 #include <filesystem>
@@ -25,8 +27,17 @@ struct Outcome {
   std::string output;      // standard output and standard error, as they came
 };
 
-// Runs a program to its end.
+// Runs a program to its end. When this program is told to end meanwhile (StopSignal), the other one
+// and all that it started are killed.
 Outcome RunCommand(const Command& command);
+
+// In a child process: becomes the program, which leads a process group of its own and gets
+// `at_parents_end` when this program ends. `output` is its standard output and standard error.
+[[noreturn]] void Become(const Command& command, int output, int at_parents_end);
+
+// Waits for the child's end, at most for `limit`; then it is killed with the signal and waited for.
+// Returns its wait status.
+int EndChild(pid_t child, std::chrono::milliseconds limit, int signal);
 
 // The program `name`: beside this program, else on PATH; nothing when it is in neither place.
 std::optional<std::filesystem::path> FindProgram(const std::string& name);

@@ -35,26 +35,21 @@ void ForEachShownWindow(const Windows& windows, const std::function<void(const W
     Settle(windows.toolkit);
     visit(window);
     HideWindow(window);
-    Settle(windows.toolkit, std::chrono::milliseconds(20));
+    Settle(windows.toolkit);
   }
 }
 
-bool WriteScreenshots(const Windows& windows, const fs::path& file, const fs::path& folder) {
-  bool all = true;
-  bool first = true;
-  std::error_code error;
-  if (!folder.empty()) fs::create_directories(folder, error);
-  ForEachShownWindow(windows, [&](const Window& window) {
-    const fs::path target = !folder.empty() ? folder / (window.plan.name + ".png")
-                            : first         ? file
-                                            : WithName(file, window.plan.name);
-    first = false;
-    const std::string failure = WritePicture(window.shell, target);
-    if (failure.empty()) return;
-    std::cerr << "pandrel-view: " << target.string() << ": " << failure << "\n";
-    all = false;
-  });
-  return all && !first;
+fs::path PictureFile(const fs::path& file, const fs::path& folder, const std::string& window,
+                     bool first) {
+  if (!folder.empty()) return folder / (window + ".png");
+  return first ? file : WithName(file, window);
+}
+
+bool TakePicture(const Window& window, const fs::path& target) {
+  const std::string failure = WritePicture(window.shell, target);
+  if (failure.empty()) return true;
+  std::cerr << "pandrel-view: " << target.string() << ": " << failure << "\n";
+  return false;
 }
 
 }  // namespace view

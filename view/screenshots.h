@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <string>
 
 #include "view_windows.h"
 
@@ -14,11 +15,15 @@ namespace view {
 // the screen and drawn to the end, and calls `visit` for it.
 void ForEachShownWindow(const Windows& windows, const std::function<void(const Window&)>& visit);
 
-// Writes one picture per window and dialog: the first to `file`, a further one to the file of that
-// name with "-" and the window's name before the suffix. With `folder`, each to folder/NAME.png
-// instead. Returns whether all could be written; failures are reported on standard error.
-bool WriteScreenshots(const Windows& windows, const std::filesystem::path& file,
-                      const std::filesystem::path& folder);
+// The file of a window's picture: `file` for the first window and, for a further one, the file of
+// that name with "-" and the window's name before the suffix; with `folder`, folder/NAME.png.
+std::filesystem::path PictureFile(const std::filesystem::path& file,
+                                  const std::filesystem::path& folder, const std::string& window,
+                                  bool first);
+
+// Writes the picture of a window that is shown. Returns false after a message on standard error
+// when it cannot be written.
+bool TakePicture(const Window& window, const std::filesystem::path& target);
 
 }  // namespace view
 

@@ -12,6 +12,9 @@ namespace {
 constexpr char kProgram[] = "pandrel-view";
 constexpr char kClass[] = "PandrelView";
 
+// How long a window manager may take to answer.
+constexpr std::chrono::milliseconds kQuiet{80};
+
 int x_errors = 0;
 
 int ReportXError(Display* display, XErrorEvent* event) {
@@ -58,13 +61,16 @@ Toolkit StartToolkit(const std::vector<std::string>& toolkit_options) {
 
 int XErrorCount() { return x_errors; }
 
-void Settle(const Toolkit& toolkit, std::chrono::milliseconds quiet) {
+void Settle(const Toolkit& toolkit) {
   using Clock = std::chrono::steady_clock;
+  const auto quiet = toolkit.alone ? std::chrono::milliseconds(0) : kQuiet;
   const auto end = Clock::now() + std::chrono::seconds(2);
   auto last = Clock::now();
-  while (Clock::now() < end && Clock::now() - last < quiet) {
+  bool any = true;
+  // A server that serves nobody else has sent all events by the time it answers.
+  while (Clock::now() < end && (any || Clock::now() - last < quiet)) {
     XSync(toolkit.display, False);
-    bool any = false;
+    any = false;
     while (const XtInputMask mask = XtAppPending(toolkit.app)) {
       // A blinking text cursor fires its timer for ever; only events count as something new.
       any = any || (mask & XtIMXEvent) != 0;
@@ -72,7 +78,7 @@ void Settle(const Toolkit& toolkit, std::chrono::milliseconds quiet) {
       if (Clock::now() > end) return;
     }
     if (any) last = Clock::now();
-    std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    if (!toolkit.alone) std::this_thread::sleep_for(std::chrono::milliseconds(5));
   }
 }
 

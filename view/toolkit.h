@@ -15,6 +15,7 @@ struct Toolkit {
   XtAppContext app = nullptr;
   Display* display = nullptr;  // null when it could not be opened
   std::string display_name;    // as asked for, for the message
+  bool alone = false;          // no other client is there, no window manager above all
 };
 
 // Starts the toolkit with its own options ("-display", ...) and opens the display. X errors and
@@ -24,9 +25,9 @@ Toolkit StartToolkit(const std::vector<std::string>& toolkit_options);
 // How many X errors there were.
 int XErrorCount();
 
-// Handles events until none has come for `quiet`, at most for two seconds.
-void Settle(const Toolkit& toolkit,
-            std::chrono::milliseconds quiet = std::chrono::milliseconds(80));
+// Handles events until what was asked for has been done and drawn. Where other clients may have a
+// part in it, that is when no event has come for a while; at most two seconds.
+void Settle(const Toolkit& toolkit);
 
 // The text of a resource of the program itself, such as "geometry" (set by -geometry); empty when
 // nobody set it.

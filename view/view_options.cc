@@ -58,6 +58,9 @@ class Parser {
     } else if (options_.file.empty() && NeedsFile()) {
       options_.error = "no file to show";
       options_.action = Options::Action::kUsageError;
+    } else if (options_.watch && options_.IsBatch()) {
+      options_.error = "--watch is for windows that stay";
+      options_.action = Options::Action::kUsageError;
     }
     return options_;
   }
@@ -79,15 +82,25 @@ class Parser {
     } else if (argument == "--version") {
       options_.action = Options::Action::kVersion;
     } else if (argument == "--list") {
-      options_.action = Options::Action::kList;
+      options_.list = true;
+    } else if (argument == "--check") {
+      options_.check = Options::Check::kSentences;
+    } else if (argument == "--check=tab") {
+      options_.check = Options::Check::kTabs;
+    } else if (argument == "--all") {
+      options_.all = true;
+    } else if (argument == "--watch") {
+      options_.watch = true;
+    } else if (argument == "--compact") {
+      options_.compact = true;
+    } else if (argument == "--resources") {
+      options_.resource_files.push_back(TakeValue());
     } else if (argument == "--verbose" || argument == "-v") {
       options_.verbose = true;
     } else if (argument == "-o" || argument == "--output") {
       options_.picture = TakeValue();
-      options_.action = Options::Action::kScreenshots;
     } else if (argument == "--screenshot") {
       options_.picture_folder = TakeValue();
-      options_.action = Options::Action::kScreenshots;
     } else if (argument == "--no-fix") {
       options_.fix = false;
     } else if (argument.starts_with("--no-")) {
@@ -147,6 +160,13 @@ std::string HelpText() {
          "      --screenshot DIR    write one picture per window and dialog, DIR/NAME.png, and "
          "exit\n"
          "      --list              print the widgets with their geometry and exit\n"
+         "      --check[=tab]       print what overlaps, is cut or lies outside, and exit; with\n"
+         "                          \"=tab\" as fields for other programs\n"
+         "      --all               show windows and dialogs that start hidden, too\n"
+         "      --watch             start over when FILE changes\n"
+         "      --compact           use the metrics and letters that the interfaces were drawn "
+         "for\n"
+         "      --resources FILE    use the X resources in FILE, too\n"
          "      --no-fix            compile the module as it is\n"
          "      --no-REWRITE        leave out one rewrite of pandrel-uilfix(1)\n"
          "  -v, --verbose           tell the rewrites and the converter's notes\n"
@@ -157,7 +177,9 @@ std::string HelpText() {
          "the\n"
          "X toolkit's options, such as -display, -geometry or -xrm, to the toolkit. Procedures of\n"
          "the application are announced on standard output when they are called; the signal USR1\n"
-         "prints there the widgets that are on the screen.\n";
+         "prints there the widgets that are on the screen. Pictures, lists and checks are made on "
+         "an X\n"
+         "server of the program's own (Xvfb), unless -display names another.\n";
 }
 
 }  // namespace view

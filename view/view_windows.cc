@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "view_windows.h"
 
-#include <X11/Shell.h>
+#include <X11/IntrinsicP.h>
+#include <X11/ShellP.h>
 #include <Xm/AtomMgr.h>
 #include <Xm/DialogS.h>
 #include <Xm/Protocols.h>
@@ -24,6 +25,23 @@ constexpr Dimension kEmptyHeight = 100;
 // The pointer that the toolkit's functions want where they do not write.
 char* Mutable(const std::string& text) { return const_cast<char*>(text.c_str()); }
 
+// How long nothing has to be on the screen before the program ends: a procedure that hides one
+// window and shows another leaves a moment without any.
+constexpr unsigned long kNoWindowMs = 100;
+
+void EndWithoutWindows(XtPointer closure, XtIntervalId*) {
+  const auto* windows = static_cast<Windows*>(closure);
+  if (std::none_of(windows->windows.begin(), windows->windows.end(), IsShown)) {
+    XtAppSetExitFlag(windows->toolkit.app);
+  }
+}
+
+void NoticeHiding(Widget, XtPointer closure, XtPointer) {
+  XtAppAddTimeOut(static_cast<Windows*>(closure)->toolkit.app, kNoWindowMs, EndWithoutWindows,
+                  closure);
+}
+
+// The last base window takes its dialogs along.
 void CloseWindow(Widget shell, XtPointer closure, XtPointer) {
   auto* windows = static_cast<Windows*>(closure);
   XtPopdown(shell);
@@ -45,7 +63,8 @@ bool HasResource(Widget widget, const std::string& name) {
   return has;
 }
 
-// Whether the display knows the colour. OPEN LOOK files may name colours of their own server.
+// Whether the display knows the colour. The toolkit would say of another one which class it is of,
+// and not which window; missing_parts.h does.
 bool KnowsColor(Widget shell, const std::string& color) {
   XColor parsed;
   Colormap map = DefaultColormapOfScreen(XtScreen(shell));
@@ -55,11 +74,7 @@ bool KnowsColor(Widget shell, const std::string& color) {
 void SetResources(const Shell& plan, Widget shell) {
   for (const auto& [name, value] : plan.resources) {
     if (!HasResource(shell, name)) continue;
-    if (name == "background" && !KnowsColor(shell, value)) {
-      std::cerr << kProgram << ": window " << plan.name << ": colour \"" << value
-                << "\" is not known\n";
-      continue;
-    }
+    if (name == "background" && !KnowsColor(shell, value)) continue;
     XtVaSetValues(shell, XtVaTypedArg, Mutable(name), XtRString, Mutable(value),
                   static_cast<int>(value.size() + 1), nullptr);
   }
@@ -122,7 +137,7 @@ bool Fill(MrmHierarchy hierarchy, Window& window) {
   return all;
 }
 
-void FinishBaseWindow(Windows& windows, Window& window) {
+void FinishBaseWindow(Windows& windows, const Window& window) {
   for (std::size_t i = 0; i < window.work.size(); ++i) {
     if (window.plan.work[i].managed) XtManageChild(window.work[i]);
   }
@@ -167,17 +182,22 @@ void HideWindow(const Window& window) { ZoHide(window.shell); }
 
 bool IsShown(const Window& window) {
   if (window.plan.dialog) return !window.work.empty() && XtIsManaged(window.work.front());
-  if (!XtIsRealized(window.shell)) return false;
-  XWindowAttributes attributes;
-  XGetWindowAttributes(XtDisplay(window.shell), XtWindow(window.shell), &attributes);
-  return attributes.map_state != IsUnmapped;
+  // A window that is an icon is shown.
+  return reinterpret_cast<ShellWidget>(window.shell)->shell.popped_up != False;
 }
 
-void ShowInitialWindows(const Windows& windows) {
+bool IsShownAtStart(const Window& window) {
+  const bool unmanaged =
+      window.plan.dialog && !window.plan.work.empty() && !window.plan.work.front().managed;
+  return !window.plan.hidden && !unmanaged;
+}
+
+void EndWithLastWindow(Windows& windows) {
   for (const Window& window : windows.windows) {
-    const bool unmanaged =
-        window.plan.dialog && !window.plan.work.empty() && !window.plan.work.front().managed;
-    if (!window.plan.hidden && !unmanaged) ShowWindow(window);
+    XtAddCallback(window.shell, XmNpopdownCallback, NoticeHiding, &windows);
+    if (window.plan.dialog && !window.work.empty()) {
+      XtAddCallback(window.work.front(), XmNunmapCallback, NoticeHiding, &windows);
+    }
   }
 }
 

@@ -36,8 +36,11 @@ void ShowWindow(const Window& window);
 void HideWindow(const Window& window);
 bool IsShown(const Window& window);
 
-// Shows what the module shows at start: all but what is hidden or unmanaged there.
-void ShowInitialWindows(const Windows& windows);
+// Whether the module shows the window at start: it is neither hidden nor unmanaged there.
+bool IsShownAtStart(const Window& window);
+
+// Ends the toolkit's loop when no window is shown any more. `windows` must stay where it is.
+void EndWithLastWindow(Windows& windows);
 
 }  // namespace view
 

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+// Folders that look like the user's and can be written to: the converter puts the bitmaps of glyphs
+// beside them, and looking at an interface should leave no files behind.
+#ifndef PANDREL_VIEW_SHADOW_H
+#define PANDREL_VIEW_SHADOW_H
+
+#include <filesystem>
+
+namespace view {
+
+// Makes `shadow` a folder in which the files of `original` can be read and new ones written.
+// Folders, `depth` levels of them, are made anew; deeper ones are the user's own.
+void MakeShadow(const std::filesystem::path& original, const std::filesystem::path& shadow,
+                int depth);
+
+// Makes the folder `path` below the shadow one of `original`, in place of what is there. `path` is
+// relative and does not lead out of the shadow.
+void PutShadow(const std::filesystem::path& original, const std::filesystem::path& shadow,
+               const std::filesystem::path& path);
+
+}  // namespace view
+
+#endif

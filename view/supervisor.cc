@@ -1,0 +1,233 @@
+// SPDX-License-Identifier: MIT
+#include "supervisor.h"
+
+#include <fcntl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <iostream>
+#include <optional>
+
+#include "file_watch.h"
+#include "input.h"
+#include "private_server.h"
+#include "process.h"
+#include "scratch_folder.h"
+#include "session.h"
+#include "signals.h"
+
+namespace view {
+namespace {
+
+namespace fs = std::filesystem;
+using std::chrono::milliseconds;
+
+constexpr char kProgram[] = "pandrel-view";
+
+// Longer than any module takes to read. A damaged one may send the resource manager round in
+// circles.
+constexpr milliseconds kLoadLimit{60'000};
+// For a process to end after it was asked to.
+constexpr milliseconds kEndLimit{2'000};
+// Editors write a file in several steps; this is how long it has to stay as it is.
+constexpr milliseconds kUnchanged{150};
+
+int Fail(const std::string& message) {
+  std::cerr << kProgram << ": " << message << std::flush;
+  return kFailure;
+}
+
+// A process that shows the interface.
+struct Worker {
+  pid_t process = -1;
+  int ready = -1;       // gets a byte when the windows are made, and ends with the process
+  bool loaded = false;  // that byte has come
+};
+
+enum class Event { kEnded, kTooSlow, kChanged, kStopped };
+
+class Supervisor {
+ public:
+  explicit Supervisor(const Options& options) : options_(options) {}
+
+  int Run() {
+    if (scratch_.Path().empty()) {
+      return Fail(std::string("cannot make a temporary folder: ") + std::strerror(errno) + "\n");
+    }
+    if (options_.watch) watch_.emplace(fs::absolute(options_.file));
+    if (watch_ && watch_->Descriptor() < 0) return Fail(options_.file + ": cannot be watched\n");
+    std::optional<Interface> interface = Prepare();
+    if (StopSignal() != 0) return kFailure;
+    if (!interface && !watch_) return kFailure;
+    if (const std::string failure = ChooseServer(); !failure.empty()) return Fail(failure + "\n");
+    if (interface) Start(*interface);
+    return Watch();
+  }
+
+  ~Supervisor() { StopWorker(SIGTERM); }
+
+ private:
+  // The interface, in a new folder; nothing after a message.
+  std::optional<Interface> Prepare() {
+    const fs::path folder = scratch_.Path() / std::to_string(++generation_);
+    std::error_code error;
+    fs::create_directory(folder, error);
+    Interface interface = PrepareInterface(options_, folder);
+    if (interface.error.empty()) return interface;
+    if (StopSignal() == 0) Fail(interface.error);
+    return std::nullopt;
+  }
+
+  // What ends by itself needs no user's display, and is better off without: others may have windows
+  // there. Returns what went wrong, or the empty text.
+  std::string ChooseServer() {
+    const auto& given = options_.toolkit_options;
+    const bool named = std::find(given.begin(), given.end(), "-display") != given.end();
+    if (!options_.IsBatch() || named) return "";
+    const std::string failure = server_.Start(scratch_.Path());
+    if (failure.empty()) {
+      own_server_ = true;
+      setenv("DISPLAY", server_.Display().c_str(), 1);
+      setenv("XAUTHORITY", server_.Authority().c_str(), 1);
+      return "";
+    }
+    const char* display = std::getenv("DISPLAY");
+    return display && *display ? "" : failure + ", and there is no other display";
+  }
+
+  void Start(const Interface& interface) {
+    int ends[2];
+    if (pipe2(ends, O_CLOEXEC) != 0) return;
+    std::cout << std::flush;
+    worker_ = {fork(), ends[0], false};
+    if (worker_.process == 0) {
+      ReleaseSignalsInChild(SIGTERM);
+      std::signal(SIGUSR1, SIG_IGN);  // until there are windows to list
+      close(ends[0]);
+      Work(interface, ends[1]);
+    }
+    close(ends[1]);
+  }
+
+  [[noreturn]] void Work(const Interface& interface, int ready) {
+    std::error_code error;
+    // Bitmaps are named relative to the folder of the interface.
+    fs::current_path(interface.folder, error);
+    const int status =
+        RunSession(options_, interface, {ready, own_server_, scratch_.Path() / "places"});
+    // The supervisor's own objects are left alone: the folder and the server are its to remove.
+    std::exit(status);
+  }
+
+  Event WaitForEvent() {
+    for (;;) {
+      pollfd descriptors[] = {{worker_.ready, POLLIN, 0},
+                              {watch_ ? watch_->Descriptor() : -1, POLLIN, 0}};
+      const bool loading = worker_.process > 0 && !worker_.loaded;
+      const int count = WaitFor(descriptors, loading ? kLoadLimit : milliseconds(-1));
+      if (StopSignal() != 0) return Event::kStopped;
+      if (TakeListRequest()) {
+        if (worker_.process > 0) kill(worker_.process, SIGUSR1);
+        continue;
+      }
+      if (count == 0) {
+        if (loading) return Event::kTooSlow;
+        continue;
+      }
+      if (descriptors[0].revents != 0) {
+        char byte = 0;
+        if (read(worker_.ready, &byte, 1) <= 0) return Event::kEnded;
+        worker_.loaded = true;
+      }
+      if (descriptors[1].revents != 0 && watch_->TakeNews()) return Event::kChanged;
+    }
+  }
+
+  int Watch() {
+    for (;;) {
+      switch (WaitForEvent()) {
+        case Event::kStopped:
+          return kFailure;
+        case Event::kTooSlow:
+          StopWorker(SIGKILL);
+          return Fail(options_.file + ": could not be read within a minute; it may be damaged\n");
+        case Event::kChanged:
+          Reload();
+          break;
+        case Event::kEnded: {
+          const int status = EndChild(TakeWorker(), kEndLimit, SIGKILL);
+          if (WIFEXITED(status)) return WEXITSTATUS(status);
+          TellCrash(WTERMSIG(status));
+          if (!watch_) return kFailure;
+          break;
+        }
+      }
+    }
+  }
+
+  // Shows the file as it is now; as it was, when it cannot be.
+  void Reload() {
+    pollfd news[] = {{watch_->Descriptor(), POLLIN, 0}};
+    while (WaitFor(news, kUnchanged) > 0) watch_->TakeNews();
+    const std::optional<Interface> interface = Prepare();
+    if (!interface || StopSignal() != 0) return;
+    StopWorker(SIGUSR2);
+    Start(*interface);
+  }
+
+  void TellCrash(int signal) const {
+    if (signal == SIGPIPE || signal == SIGTERM || signal == SIGKILL) return;
+    const bool compiled = fs::path(options_.file).extension() == ".uid";
+    Fail(options_.file +
+         (compiled ? ": damaged: the resource manager crashed on it\n"
+                   : ": the toolkit crashed (" + std::string(strsignal(signal)) + ")\n"));
+  }
+
+  // The worker's process, which is nobody's any more.
+  pid_t TakeWorker() {
+    const pid_t process = worker_.process;
+    if (worker_.ready >= 0) close(worker_.ready);
+    worker_ = {};
+    return process;
+  }
+
+  void StopWorker(int signal) {
+    const pid_t process = TakeWorker();
+    if (process <= 0) return;
+    kill(process, signal);
+    EndChild(process, kEndLimit, SIGKILL);
+  }
+
+  const Options& options_;
+  ScratchFolder scratch_;
+  PrivateServer server_;  // ends before its folder does
+  bool own_server_ = false;
+  std::optional<FileWatch> watch_;
+  Worker worker_;
+  int generation_ = 0;
+};
+
+// The working directory changes before file names are used.
+void MakeAbsolute(std::string& file) {
+  if (!file.empty()) file = fs::absolute(file).string();
+}
+
+}  // namespace
+
+int Supervise(Options options) {
+  MakeAbsolute(options.picture);
+  MakeAbsolute(options.picture_folder);
+  for (std::string& file : options.resource_files) MakeAbsolute(file);
+  HoldSignals();
+  const int status = [&] { return Supervisor(options).Run(); }();
+  if (StopSignal() != 0) EndBySignal(StopSignal());
+  return status;
+}
+
+}  // namespace view

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+// The process that the user started. It prepares the interface, lets another process show it, and
+// cleans up however that one ends.
+#ifndef PANDREL_VIEW_SUPERVISOR_H
+#define PANDREL_VIEW_SUPERVISOR_H
+
+#include "view_options.h"
+
+namespace view {
+
+// Does what the options ask for and returns the exit status. Ends by the signal when one of those
+// that end programs comes; temporary files are gone and other processes ended by then.
+int Supervise(Options options);
+
+}  // namespace view
+
+#endif
