@@ -22,7 +22,7 @@ static std::string FileName(const Model& model, int file) {
 }
 
 static void Join(std::string* list, std::string_view separator, std::string_view item) {
-  if (!list->empty()) *list += separator;
+  if (!list->empty() && !item.empty()) *list += separator;
   *list += item;
 }
 
