@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: MIT
 """Ports of GIL files for the tests: made, built, run and clicked."""
+import ctypes
 import pathlib
 import subprocess
 import sys
@@ -36,6 +37,28 @@ def build(folder, *arguments):
     if done.returncode != 0:
         raise AssertionError(f"make failed in {folder}:\n{done.stdout}")
     return done.stdout
+
+
+class ClientMessage(ctypes.Structure):
+    """XClientMessageEvent, in the room of an XEvent."""
+    _fields_ = [("type", ctypes.c_int), ("serial", ctypes.c_ulong), ("send_event", ctypes.c_int),
+                ("display", ctypes.c_void_p), ("window", ctypes.c_ulong),
+                ("message_type", ctypes.c_ulong), ("format", ctypes.c_int),
+                ("data", ctypes.c_long * 5), ("rest", ctypes.c_long * 12)]
+
+
+def close_window(display_name, window):
+    """Sends the window what a window manager sends for "close"."""
+    xlib = ctypes.CDLL("libX11.so.6")
+    xlib.XOpenDisplay.restype = ctypes.c_void_p
+    xlib.XInternAtom.restype = ctypes.c_ulong
+    display = ctypes.c_void_p(xlib.XOpenDisplay(display_name.encode()))
+    event = ClientMessage(type=33, window=int(window), format=32,
+                          message_type=xlib.XInternAtom(display, b"WM_PROTOCOLS", 0))
+    event.data[0] = xlib.XInternAtom(display, b"WM_DELETE_WINDOW", 0)
+    xlib.XSendEvent(display, ctypes.c_ulong(int(window)), 0, ctypes.c_long(0),
+                    ctypes.byref(event))
+    xlib.XCloseDisplay(display)
 
 
 class Port:
