@@ -177,8 +177,8 @@ constexpr std::string_view kOurs[] = {
 
 // Prefixes of names that belong to the libraries and to the other files of the program.
 constexpr std::string_view kPrefixes[] = {
-    "Xt",  "Xm",  "_X",       "Zo",  "Mrm",      "MRM",   "XA_",     "XK_",       "__",
-    "str", "mem", "pthread_", "SIG", "setting_", "work_", "popups_", "resources_"};
+    "Xt", "Xm",  "xm",  "_X",       "Zo",  "Mrm",      "MRM",   "XA_",     "XK_",
+    "__", "str", "mem", "pthread_", "SIG", "setting_", "work_", "popups_", "resources_"};
 
 bool IsWordByte(char c) {
   return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_';
