@@ -117,12 +117,16 @@ static Data Objects(const Model& model) {
 static Data Faults(const std::vector<LayoutFault>& faults) {
   Data list{Data::type::list};
   for (const LayoutFault& fault : faults) {
+    if (!IsOfLayout(fault)) continue;
     Data data;
     SetText(&data, "kind", fault.kind);
-    SetText(&data, "window", fault.window);
     SetText(&data, "widget", fault.widget);
+    SetText(&data, "object", fault.object);
+    SetText(&data, "window", fault.window);
+    SetText(&data, "place", fault.place);
     SetText(&data, "other", fault.other);
-    SetText(&data, "detail", fault.detail);
+    SetText(&data, "other_object", fault.other_object);
+    SetText(&data, "pixels", fault.pixels);
     list.push_back(data);
   }
   return list;
@@ -130,7 +134,7 @@ static Data Faults(const std::vector<LayoutFault>& faults) {
 
 static Data Icons(const ReportInput& input) {
   Data list{Data::type::list};
-  for (const IconRow& row : MissingIcons(*input.model, input.sketches)) {
+  for (const IconRow& row : MissingIcons(input)) {
     Data data;
     SetText(&data, "icon", row.icon);
     SetText(&data, "where", row.where);
@@ -177,7 +181,7 @@ std::string MakeReport(const ReportInput& input) {
   SetList(&data, "objects", Objects(model));
   SetList(&data, "faults", Faults(input.faults));
   SetList(&data, "icons", Icons(input));
-  SetList(&data, "colors", Lines(input.missing_colors));
+  SetList(&data, "colors", Lines(MissingColors(input)));
   SetList(&data, "messages", Lines(model.messages));
   SetList(&data, "mends", Lines(model.mends));
   return page.render(data);

@@ -62,8 +62,8 @@ ReportTotals CountAll(const ReportInput& input) {
   totals.overlaps = Count(input.faults, "overlap");
   totals.cut_texts = Count(input.faults, "cut");
   totals.outside = Count(input.faults, "outside");
-  totals.missing_icons = static_cast<int>(MissingIcons(*input.model, input.sketches).size());
-  totals.missing_colors = static_cast<int>(input.missing_colors.size());
+  totals.missing_icons = static_cast<int>(MissingIcons(input).size());
+  totals.missing_colors = static_cast<int>(MissingColors(input).size());
   totals.messages = static_cast<int>(input.model->messages.size());
   return totals;
 }
