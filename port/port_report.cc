@@ -143,14 +143,16 @@ static Data Icons(const ReportInput& input) {
   return list;
 }
 
-static Data Lines(const std::vector<std::string>& lines) {
+static Data Colors(const ReportInput& input) {
   Data list{Data::type::list};
-  for (const std::string& line : lines) {
-    Data data;
-    SetText(&data, "text", PageText(line));
-    list.push_back(data);
-  }
+  for (const std::string& color : MissingColors(input)) list.push_back(Data("color", color));
   return list;
+}
+
+static std::string JoinLines(const std::vector<std::string>& lines) {
+  std::string text;
+  for (const std::string& line : lines) text += (text.empty() ? "" : "\n") + PageText(line);
+  return text;
 }
 
 // A list, and whether there is anything in it.
@@ -181,9 +183,9 @@ std::string MakeReport(const ReportInput& input) {
   SetList(&data, "objects", Objects(model));
   SetList(&data, "faults", Faults(input.faults));
   SetList(&data, "icons", Icons(input));
-  SetList(&data, "colors", Lines(MissingColors(input)));
-  SetList(&data, "messages", Lines(model.messages));
-  SetList(&data, "mends", Lines(model.mends));
+  SetList(&data, "colors", Colors(input));
+  SetText(&data, "messages", JoinLines(model.messages));
+  SetText(&data, "mends", JoinLines(model.mends));
   return page.render(data);
 }
 

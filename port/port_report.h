@@ -46,7 +46,7 @@ struct ReportTotals {
   int outside = 0;  // of their containers
   int missing_icons = 0;
   int missing_colors = 0;
-  int messages = 0;  // lines of the converter
+  int messages = 0;  // lines that the converter wrote, empty ones left out
 
   ReportTotals& operator+=(const ReportTotals& other);
 };

@@ -131,6 +131,7 @@ std::vector<std::string> MissingColors(const ReportInput& input) {
   for (const LayoutFault& fault : input.faults) {
     if (fault.kind == "color") colors.insert(fault.other);
   }
+  colors.erase("");
   return {colors.begin(), colors.end()};
 }
 

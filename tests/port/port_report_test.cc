@@ -66,14 +66,14 @@ TEST_F(ReportTest, CountsEverything) {
       "color\tx\t\t\t\t\t\t\tBG7\ncolor\tx\t\t\t\t\t\t\tBG8\n");
   input_.missing_colors = {"BG7"};
   model_.missing_bitmaps = {"sun.xbm", "rain.xbm"};
-  model_.messages = {"one", "two"};
+  model_.messages = {"one", "", "two"};
   input_.sketches = {Sketch{}};
   input_.sketches[0].missing_glyphs = {"icons/sun.icon", "fog.icon"};
   EXPECT_EQ(TotalsLine(CountAll(input_)),
             "5 actions: 1 in the module, 2 in connections.c, 1 call of your functions, 1 lost; "
             "4 objects: 2 shown, 1 replaced, 1 lost; 1 overlap; 2 cut texts; "
             "1 control outside its container; 4 missing icons; 2 unknown colours; "
-            "2 messages of the converter");
+            "2 lines of messages");
 }
 
 TEST_F(ReportTest, AddsTotals) {
@@ -219,12 +219,12 @@ TEST_F(ReportTest, TellsACleanLayoutFromAnUnmeasuredOne) {
 }
 
 TEST_F(ReportTest, ShowsMessagesMendsAndErrors) {
-  model_.messages = {"Cannot find a"};
+  model_.messages = {"Cannot find a", "", "  b"};
   model_.mends = {"line 3: renamed"};
   model_.error = "syntax error";
   const std::string page = MakeReport(input_);
-  EXPECT_THAT(page, HasSubstr("<li>Cannot find a</li>"));
-  EXPECT_THAT(page, HasSubstr("<li>line 3: renamed</li>"));
+  EXPECT_THAT(page, HasSubstr("<pre>Cannot find a\n\n  b</pre>"));
+  EXPECT_THAT(page, HasSubstr("<pre>line 3: renamed</pre>"));
   EXPECT_THAT(page, HasSubstr("<p class=\"lost\">syntax error</p>"));
 }
 
