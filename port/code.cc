@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "port/code.h"
 
+#include <algorithm>
 #include <string_view>
 
 #include "port/escape.h"
@@ -81,26 +82,37 @@ class Statements {
   std::string_view rest_;
 };
 
+// One past the comment or literal at the start of `text`; 1 for any other byte, npos for a comment
+// or literal that does not end, or that compilers warn of.
+std::size_t PieceEnd(std::string_view text) {
+  if (text.starts_with("//") || text.starts_with("/*")) {
+    const bool line = text[1] == '/';
+    const std::size_t end = line ? std::min(text.find('\n'), text.size()) : text.find("*/", 2);
+    if (end == text.npos || text.substr(2, end - 2).find("/*") != text.npos) return text.npos;
+    return line ? end : end + 2;
+  }
+  if (text[0] != '"' && text[0] != '\'') return 1;
+  for (std::size_t i = 1; i < text.size() && text[i] != '\n'; ++i) {
+    if (text[i] == text[0]) return i + 1;
+    if (text[i] == '\\') ++i;
+  }
+  return text.npos;
+}
+
 // Whether the text could end the "#if 0" that it stands in, or hide its end: a line of the
-// preprocessor's, a comment that is not closed, lines joined, bytes that compilers warn of.
+// preprocessor's, a comment or literal that is not closed, lines joined.
 bool CouldBreakOut(std::string_view code) {
-  if (code.find('#') != code.npos) return true;
-  if (code.find("%:") != code.npos || code.find("??") != code.npos) return true;
-  if (code.find("\\\n") != code.npos || code.ends_with('\\')) return true;
+  if (code.ends_with('\\')) return true;
+  for (std::string_view risk : {"#", "%:", "??", "\\\n"}) {
+    if (code.find(risk) != code.npos) return true;
+  }
   for (char c : code) {
     if (!IsBlank(c) && (c < ' ' || c > '~')) return true;
   }
-  // Comments closed one by one. Line comments may hold anything, so they count as risky when they
-  // hold the beginning of another.
-  for (std::size_t at = code.find("/*"); at != code.npos; at = code.find("/*", at)) {
-    const std::size_t end = code.find("*/", at + 2);
-    if (end == code.npos || code.substr(at + 2, end - at - 2).find("/*") != code.npos) return true;
-    at = end + 2;
-  }
-  if (code.find("//") == code.npos) return false;
-  for (std::size_t at = code.find("//"); at != code.npos; at = code.find("//", at + 2)) {
-    const std::size_t end = code.find('\n', at);
-    if (code.substr(at, end - at).find("/*") != code.npos) return true;
+  while (!code.empty()) {
+    const std::size_t end = PieceEnd(code);
+    if (end == code.npos) return true;
+    code.remove_prefix(end);
   }
   return false;
 }

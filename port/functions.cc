@@ -138,9 +138,82 @@ constexpr std::string_view kLibrary[] = {
     "Always", "Never", "Button1", "Button2", "Button3", "Nonconvex", "Opposite", "Unsorted",
     "shellWidgetClass", "topLevelShellWidgetClass", "applicationShellWidgetClass"};
 
+// What the generated files define where your functions are declared. tests/port tries every word of
+// the templates.
+constexpr std::string_view kOurs[] = {
+    "ALWAYS",
+    "AddConnections",
+    "COUNT",
+    "Call",
+    "Choose",
+    "CloseWindow",
+    "Condition",
+    "Connect",
+    "ConnectBelow",
+    "CountClosed",
+    "CountOpened",
+    "EndOnSignals",
+    "EndProgram",
+    "EventKind",
+    "Fetch",
+    "FillShell",
+    "FindBitmaps",
+    "FindKind",
+    "GiveSize",
+    "HandleEvent",
+    "HasLabel",
+    "HasResource",
+    "IsSecondClick",
+    "IsSet",
+    "IsUsable",
+    "MakeShell",
+    "MakeWindows",
+    "MenuOf",
+    "ModuleFile",
+    "NoticeEnd",
+    "OwnerShell",
+    "PORT_CALLBACKS_H",
+    "PORT_CONNECTIONS_H",
+    "PORT_DATADIR",
+    "Plan",
+    "PortStub",
+    "PostMenu",
+    "PostMenus",
+    "ProgramFolder",
+    "RegisterProcedures",
+    "Resource",
+    "Row",
+    "SetLabel",
+    "SetResources",
+    "SetValue",
+    "Setting",
+    "ShowWindows",
+    "StringOf",
+    "TEXT",
+    "WHEN_SET",
+    "WHEN_UNSET",
+    "WINDOWS",
+    "app",
+    "class_name",
+    "display",
+    "end_signal",
+    "event_kinds",
+    "fallback_resources",
+    "main",
+    "no_argument",
+    "open_windows",
+    "plans",
+    "program_name",
+    "rows",
+    "shells",
+    "sizeof",
+    "void",
+};
+
 // Prefixes of names that belong to the libraries and to the other files of the program.
-constexpr std::string_view kPrefixes[] = {"Xt",  "Xm", "_X",  "Zo",  "Mrm",      "MRM", "XA_",
-                                          "XK_", "__", "str", "mem", "pthread_", "SIG", "port_"};
+constexpr std::string_view kPrefixes[] = {
+    "Xt",  "Xm",  "_X",       "Zo",  "Mrm",      "MRM",   "XA_",     "XK_",       "__",
+    "str", "mem", "pthread_", "SIG", "setting_", "work_", "popups_", "resources_"};
 
 bool IsWordByte(char c) {
   return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_';
@@ -233,7 +306,8 @@ std::string CWord(const std::string& text) {
 bool IsTaken(const std::string& word) {
   const auto is_word = [&](std::string_view known) { return known == word; };
   return std::any_of(std::begin(kKeywords), std::end(kKeywords), is_word) ||
-         std::any_of(std::begin(kLibrary), std::end(kLibrary), is_word) || HasLibraryPrefix(word);
+         std::any_of(std::begin(kLibrary), std::end(kLibrary), is_word) ||
+         std::any_of(std::begin(kOurs), std::end(kOurs), is_word) || HasLibraryPrefix(word);
 }
 
 bool CallsFunction(const Connection& connection) {
@@ -259,8 +333,13 @@ void NameFunctions(Session& session) {
 }
 
 std::string ProgramName(const std::filesystem::path& input) {
-  std::string name = CWord(input.stem().string());
-  return name == "f_" ? "app" : name;
+  // Targets of the makefile and the names of the other files.
+  constexpr std::string_view kTaken[] = {"all",  "run",       "install",     "clean", "Makefile",
+                                         "main", "callbacks", "connections", "zo",    "letters",
+                                         "f_",   "README",    "bitmaps",     "report"};
+  const std::string name = CWord(input.stem().string());
+  const bool taken = std::find(std::begin(kTaken), std::end(kTaken), name) != std::end(kTaken);
+  return taken ? name + "_app" : name;
 }
 
 }  // namespace port

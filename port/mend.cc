@@ -11,6 +11,7 @@
 #include "port/bitmaps.h"
 #include "port/colors.h"
 #include "port/events.h"
+#include "port/functions.h"
 #include "port/targets.h"
 #include "uilfix/literals.h"
 #include "uilfix/module.h"
@@ -93,21 +94,71 @@ void BringBackGroup(Session& session, int index) {
 // ---- Callbacks ----
 
 void MendArgument(Session& session, const Link& link) {
+  constexpr std::string_view kSetting = ".mappedWhenManaged=";
   const Connection& connection = session.model.connections[link.connection];
   if (connection.function_type != "user_defined") return;
   const Widg* target = TargetWidget(session, connection);
   if (!target) return;
-  const std::string argument = GilText(link.callback->argument);
-  // The forms "(WL)[name]", "name" and "name.resource=value".
-  const bool list = argument.starts_with("(WL)[");
-  const std::size_t begin = list ? 5 : 0;
-  const std::size_t end = list ? argument.rfind(']') : argument.rfind(".mapped");
-  const std::string named = argument.substr(begin, end == std::string::npos ? end : end - begin);
-  if (named == target->name) return;
-  std::string mended = argument;
-  mended.replace(begin, named.size(), target->name);
-  const_cast<Callback*>(link.callback)->argument = Keep("\"" + mended + "\"");
-  Note(session, connection.action + " of " + named + " names the widget " + target->name);
+  const std::string argument = link.callback->argument;
+  const std::size_t setting = argument.rfind(kSetting);
+  std::string mended = target->name;
+  if (argument.starts_with("\"(WL)[")) {
+    mended = "(WL)[" + mended + "]";
+  } else if (setting != argument.npos) {
+    mended += GilText(("\"" + argument.substr(setting)).c_str());
+  }
+  mended = "\"" + mended + "\"";
+  if (mended == argument) return;
+  const_cast<Callback*>(link.callback)->argument = Keep(mended);
+  Note(session, connection.action + " of " + session.model.objects[connection.to_object].name +
+                    " names the widget " + target->name);
+}
+
+// ---- Names that are no words ----
+
+bool IsWord(std::string_view name) {
+  return !name.empty() && std::all_of(name.begin(), name.end(), [](char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_' ||
+           c == '$' || c == '.';
+  });
+}
+
+// A name may stand in quotes, which no word of a module can. Resources share the name's text.
+void CleanWidgetNames(Session& session) {
+  std::map<const char*, const char*> renamed;
+  for (Widg* widg : session.widgets) {
+    if (IsWord(widg->name)) continue;
+    char* name = Keep(CWord(GilText(widg->name)));
+    Note(session, "widget " + GilText(widg->name) + " is now " + name + ": not a name in UIL");
+    renamed[widg->name] = name;
+    widg->name = name;
+  }
+  if (renamed.empty()) return;
+  for (Widg* widg : session.widgets) {
+    for (Resource* at = widg->resources; at; at = at->next) {
+      const auto found = renamed.find(at->value);
+      if (found != renamed.end()) at->value = found->second;
+    }
+  }
+}
+
+void CleanProcedures(Session& session) {
+  char** procedures = nullptr;
+  const std::size_t count = GetProcedures(&procedures);
+  std::map<std::string, char*> renamed;
+  for (std::size_t i = 0; i < count; ++i) {
+    if (IsWord(procedures[i])) continue;
+    std::string name = CWord(GilText(procedures[i]));
+    while (AlreadyInProcList(name.c_str())) name += "_";
+    char*& kept = renamed[procedures[i]];
+    kept = Keep(name);
+    Note(session, "procedure " + GilText(procedures[i]) + " is now " + name);
+    procedures[i] = kept;
+  }
+  for (const Link& link : session.links) {
+    const auto found = renamed.find(link.callback->procedure);
+    if (found != renamed.end()) const_cast<Callback*>(link.callback)->procedure = found->second;
+  }
 }
 
 // ---- The module's callbacks ----
@@ -203,6 +254,7 @@ void MendTree(Session& session) {
     }
   }
   LinkWidgets(session, 0);
+  CleanWidgetNames(session);
 }
 
 void MendCallbacks(Session& session) {
@@ -214,9 +266,11 @@ void MendCallbacks(Session& session) {
     }
     MendArgument(session, link);
   }
+  CleanProcedures(session);
 }
 
 void MendModule(Session& session, const std::string& text) {
+  session.model.converted = text;
   uilfix::Module module = uilfix::ParseModule(text);
   std::map<const Callback*, int> order;
   for (const Link& link : session.links) order.emplace(link.callback, link.connection);

@@ -170,7 +170,8 @@ struct Model {
   std::vector<PortBitmap> bitmaps;
   std::vector<ButtonGlyph> button_glyphs;
   std::vector<std::string> missing_bitmaps;  // files that the module names and nobody has
-  std::string module;                        // text of app.uil as mended
+  std::string converted;                     // text of the module as written, and
+  std::string module;                        // as mended
 };
 
 // "base-window" for BASE_WINDOW; "?" for a number that is no type.
