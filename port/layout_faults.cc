@@ -2,6 +2,7 @@
 #include "port/layout_faults.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 
 #include "port/page_text.h"
@@ -16,17 +17,45 @@ static std::string_view Take(std::string_view* rest, char separator) {
   return front;
 }
 
+static std::string Unescape(std::string_view field) {
+  std::string text;
+  for (std::size_t i = 0; i < field.size(); ++i) {
+    if (field[i] == '\\' && i + 1 < field.size()) {
+      ++i;
+      text += field[i] == 't' ? '\t' : field[i] == 'n' ? '\n' : field[i];
+    } else {
+      text += field[i];
+    }
+  }
+  return PageText(text);
+}
+
+static std::string Signed(const std::string& number) {
+  return number.starts_with('-') ? number : "+" + number;
+}
+
+static std::string Size(const std::string& width, const std::string& height) {
+  return width.empty() ? "" : width + "x" + height;
+}
+
 static LayoutFault ParseLine(std::string_view line) {
   LayoutFault fault;
   if (line.find('\t') == std::string_view::npos) {
-    fault.kind = "other";
-    fault.detail = PageText(line);
+    fault.kind = "note";
+    fault.other = PageText(line);
     return fault;
   }
-  for (std::string* field : {&fault.kind, &fault.window, &fault.widget, &fault.other}) {
-    *field = PageText(Take(&line, '\t'));
+  for (std::string* field : {&fault.kind, &fault.widget, &fault.object, &fault.window}) {
+    *field = Unescape(Take(&line, '\t'));
   }
-  fault.detail = PageText(line);
+  std::array<std::string, 4> numbers;  // x, y, width, height
+  for (std::string& number : numbers) number = Unescape(Take(&line, '\t'));
+  fault.place = Size(numbers[2], numbers[3]);
+  if (!fault.place.empty()) fault.place += Signed(numbers[0]) + Signed(numbers[1]);
+  fault.other = Unescape(Take(&line, '\t'));
+  fault.other_object = Unescape(Take(&line, '\t'));
+  const std::string across = Unescape(Take(&line, '\t'));
+  fault.pixels = Size(across, Unescape(Take(&line, '\t')));
   return fault;
 }
 
@@ -38,5 +67,7 @@ std::vector<LayoutFault> ParseLayoutFaults(std::string_view lines) {
   }
   return faults;
 }
+
+bool IsOfLayout(const LayoutFault& fault) { return fault.kind != "icon" && fault.kind != "color"; }
 
 }  // namespace port

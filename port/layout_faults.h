@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What `pandrel-view --check` found in the live windows.
+// What `pandrel-view --check=tab` found in the live windows.
 #ifndef PANDREL_PORT_LAYOUT_FAULTS_H
 #define PANDREL_PORT_LAYOUT_FAULTS_H
 
@@ -9,20 +9,26 @@
 
 namespace port {
 
-// One line of the check; its fields, with tabs between them, in this order. The texts are page
-// text.
+// One finding, as page text. Sizes and places are in pixels.
 struct LayoutFault {
-  std::string kind;    // "overlap", "cut" or "outside"
-  std::string window;  // of the interface
-  std::string widget;  // that overlaps, is cut or lies outside
-  std::string other;   // that it overlaps, or the container that it leaves; empty for "cut"
-  std::string detail;  // for a reader, mostly in pixels; may be empty
+  std::string kind;    // "overlap", "cut", "outside", "icon" or "color"
+  std::string widget;  // that overlaps, is cut, lies outside, or names the icon or colour
+  std::string object;  // its object in the GIL file; empty when it is not known
+  std::string window;
+  std::string place;  // "60x20+10+5"
+  std::string other;  // the other widget, the container, the text that is cut, the icon or colour
+  std::string other_object;
+  std::string pixels;  // by how much: "3x4", across and down
 };
 
-// The lines of the check. Fields that a line lacks are empty; what it has more belongs to the
-// detail. A line without a tab is a fault of the kind "other" with the line as its detail, so that
-// nothing is lost; empty lines are skipped.
+// The findings in the lines of the check: kind, widget, object, window, x, y, width, height, other,
+// its object, across and down, with tabs between them; \t, \n and \\ stand for a tab, a newline and
+// a backslash. Fields that a line lacks are empty. A line without a tab is of the kind "note" with
+// the line in `other`, so that nothing is lost; empty lines are skipped.
 std::vector<LayoutFault> ParseLayoutFaults(std::string_view lines);
+
+// Whether it is one of the layout, not of icons and colours.
+bool IsOfLayout(const LayoutFault& fault);
 
 }  // namespace port
 

@@ -117,12 +117,16 @@ static Data Objects(const Model& model) {
 static Data Faults(const std::vector<LayoutFault>& faults) {
   Data list{Data::type::list};
   for (const LayoutFault& fault : faults) {
+    if (!IsOfLayout(fault)) continue;
     Data data;
     SetText(&data, "kind", fault.kind);
-    SetText(&data, "window", fault.window);
     SetText(&data, "widget", fault.widget);
+    SetText(&data, "object", fault.object);
+    SetText(&data, "window", fault.window);
+    SetText(&data, "place", fault.place);
     SetText(&data, "other", fault.other);
-    SetText(&data, "detail", fault.detail);
+    SetText(&data, "other_object", fault.other_object);
+    SetText(&data, "pixels", fault.pixels);
     list.push_back(data);
   }
   return list;
@@ -130,7 +134,7 @@ static Data Faults(const std::vector<LayoutFault>& faults) {
 
 static Data Icons(const ReportInput& input) {
   Data list{Data::type::list};
-  for (const IconRow& row : MissingIcons(*input.model, input.sketches)) {
+  for (const IconRow& row : MissingIcons(input)) {
     Data data;
     SetText(&data, "icon", row.icon);
     SetText(&data, "where", row.where);
@@ -139,14 +143,16 @@ static Data Icons(const ReportInput& input) {
   return list;
 }
 
-static Data Lines(const std::vector<std::string>& lines) {
+static Data Colors(const ReportInput& input) {
   Data list{Data::type::list};
-  for (const std::string& line : lines) {
-    Data data;
-    SetText(&data, "text", PageText(line));
-    list.push_back(data);
-  }
+  for (const std::string& color : MissingColors(input)) list.push_back(Data("color", color));
   return list;
+}
+
+static std::string JoinLines(const std::vector<std::string>& lines) {
+  std::string text;
+  for (const std::string& line : lines) text += (text.empty() ? "" : "\n") + PageText(line);
+  return text;
 }
 
 // A list, and whether there is anything in it.
@@ -177,9 +183,9 @@ std::string MakeReport(const ReportInput& input) {
   SetList(&data, "objects", Objects(model));
   SetList(&data, "faults", Faults(input.faults));
   SetList(&data, "icons", Icons(input));
-  SetList(&data, "colors", Lines(input.missing_colors));
-  SetList(&data, "messages", Lines(model.messages));
-  SetList(&data, "mends", Lines(model.mends));
+  SetList(&data, "colors", Colors(input));
+  SetText(&data, "messages", JoinLines(model.messages));
+  SetText(&data, "mends", JoinLines(model.mends));
   return page.render(data);
 }
 

@@ -22,9 +22,9 @@ struct ReportInput {
   // PNG pictures of the Motif windows, by the object of the model that each stands for. One that
   // cannot be read counts as not given.
   std::map<int, std::filesystem::path> pictures;
-  std::string no_pictures;  // why there are none, for the reader; empty when there are
-  std::vector<LayoutFault> faults;
-  bool checked = false;  // whether the layout was measured, with or without faults
+  std::string no_pictures;          // why there are none, for the reader; empty when there are
+  std::vector<LayoutFault> faults;  // also of icons and colours
+  bool checked = false;             // whether the layout was measured, with or without faults
   std::vector<std::string> missing_colors;  // names that the X server does not know
   std::string version;                      // of pandrel-port
   std::string page_template;                // the text of report.html.mustache
@@ -46,7 +46,7 @@ struct ReportTotals {
   int outside = 0;  // of their containers
   int missing_icons = 0;
   int missing_colors = 0;
-  int messages = 0;  // lines of the converter
+  int messages = 0;  // lines that the converter wrote, empty ones left out
 
   ReportTotals& operator+=(const ReportTotals& other);
 };

@@ -4,13 +4,14 @@
 #include <cstddef>
 #include <filesystem>
 #include <map>
+#include <set>
 #include <string_view>
 
 #include "gil/tokens.h"
 #include "port/model.h"
 #include "port/object_attributes.h"
 #include "port/page_text.h"
-#include "port/sketch.h"
+#include "port/port_report.h"
 
 namespace port {
 
@@ -99,14 +100,17 @@ ObjectRow MakeRow(const Model& model, const PortObject& object) {
 }
 
 // A file names an icon, the module the bitmap made of it; both have one stem.
-std::vector<IconRow> MissingIcons(const Model& model, const std::vector<Sketch>& sketches) {
+std::vector<IconRow> MissingIcons(const ReportInput& input) {
   std::map<std::string, std::map<std::string, std::string>> where_by_name_by_stem;
   const auto add = [&](const std::string& name, const std::string& where) {
     std::string& places = where_by_name_by_stem[std::filesystem::path(name).stem().string()][name];
     if (places.find(where) == std::string::npos) Join(&places, ", ", where);
   };
-  for (const std::string& name : model.missing_bitmaps) add(PageText(name), "the module");
-  for (const Sketch& sketch : sketches) {
+  for (const std::string& name : input.model->missing_bitmaps) add(PageText(name), "the module");
+  for (const LayoutFault& fault : input.faults) {
+    if (fault.kind == "icon") add(fault.other, fault.widget);
+  }
+  for (const Sketch& sketch : input.sketches) {
     for (const std::string& name : sketch.missing_glyphs) add(name, sketch.name);
   }
   std::vector<IconRow> rows;
@@ -119,6 +123,16 @@ std::vector<IconRow> MissingIcons(const Model& model, const std::vector<Sketch>&
     rows.push_back(row);
   }
   return rows;
+}
+
+std::vector<std::string> MissingColors(const ReportInput& input) {
+  std::set<std::string> colors;
+  for (const std::string& color : input.missing_colors) colors.insert(PageText(color));
+  for (const LayoutFault& fault : input.faults) {
+    if (fault.kind == "color") colors.insert(fault.other);
+  }
+  colors.erase("");
+  return {colors.begin(), colors.end()};
 }
 
 }  // namespace port

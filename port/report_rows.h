@@ -12,7 +12,7 @@ namespace port {
 struct Connection;
 struct Model;
 struct PortObject;
-struct Sketch;
+struct ReportInput;
 
 struct ConnectionRow {
   std::string file;
@@ -44,7 +44,10 @@ struct IconRow {
   std::string icon;
   std::string where;
 };
-std::vector<IconRow> MissingIcons(const Model& model, const std::vector<Sketch>& sketches);
+std::vector<IconRow> MissingIcons(const ReportInput& input);
+
+// Colours that the X server does not know, each once.
+std::vector<std::string> MissingColors(const ReportInput& input);
 
 }  // namespace port
 

@@ -62,9 +62,9 @@ ReportTotals CountAll(const ReportInput& input) {
   totals.overlaps = Count(input.faults, "overlap");
   totals.cut_texts = Count(input.faults, "cut");
   totals.outside = Count(input.faults, "outside");
-  totals.missing_icons = static_cast<int>(MissingIcons(*input.model, input.sketches).size());
-  totals.missing_colors = static_cast<int>(input.missing_colors.size());
-  totals.messages = static_cast<int>(input.model->messages.size());
+  totals.missing_icons = static_cast<int>(MissingIcons(input).size());
+  totals.missing_colors = static_cast<int>(MissingColors(input).size());
+  for (const std::string& line : input.model->messages) totals.messages += line.empty() ? 0 : 1;
   return totals;
 }
 
@@ -89,7 +89,7 @@ std::string TotalsLine(const ReportTotals& totals) {
   add(totals.outside, "control outside its container", "controls outside their containers");
   add(totals.missing_icons, "missing icon", "missing icons");
   add(totals.missing_colors, "unknown colour", "unknown colours");
-  add(totals.messages, "message of the converter", "messages of the converter");
+  add(totals.messages, "line of messages", "lines of messages");
   return line;
 }
 

@@ -7,6 +7,7 @@
 #include <cstdlib>
 
 #include "port/bitmap.h"
+#include "port/colors.h"
 #include "port/page_text.h"
 
 namespace port {
@@ -128,14 +129,6 @@ std::string FitText(std::string_view text, int width, bool bold) {
   return std::string(text.substr(0, end)).append(kEllipsis);
 }
 
-// The shades of an OPEN LOOK window of the usual grey: the surface, pressed in, and shadow.
-struct NamedColor {
-  std::string_view name;
-  std::string_view css;
-};
-static const NamedColor kOpenLookColors[] = {
-    {"bg1", "#cccccc"}, {"bg2", "#b8b8b8"}, {"bg3", "#666666"}};
-
 static bool All(std::string_view text, int (*is)(int)) {
   return std::all_of(text.begin(), text.end(),
                      [is](char c) { return is(static_cast<unsigned char>(c)) != 0; });
@@ -152,14 +145,11 @@ static std::string HexColor(std::string_view digits) {
   return css;
 }
 
-std::string CssColor(std::string_view color) {
-  if (!color.empty() && color.front() == '#') return HexColor(color.substr(1));
+std::string CssColor(const std::string& color) {
+  if (color.starts_with('#')) return HexColor(std::string_view(color).substr(1));
   std::string name;
-  for (char c : color) {
+  for (char c : KnownColor(color)) {
     if (c != ' ') name += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-  }
-  for (const NamedColor& each : kOpenLookColors) {
-    if (name == each.name) return std::string(each.css);
   }
   const std::size_t word = std::min(name.find_first_of("0123456789"), name.size());
   const std::string digits = name.substr(word);

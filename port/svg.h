@@ -61,7 +61,7 @@ std::string FitText(std::string_view text, int width, bool bold = false);
 // What a colour of a GIL file is in CSS: a colour name of X, "#" and hexadecimal digits, or one of
 // OPEN LOOK's own names (BG1 and so on). Empty when it is none of them. A name that CSS does not
 // know makes its declaration void, so an earlier one in the style stays in force.
-std::string CssColor(std::string_view color);
+std::string CssColor(const std::string& color);
 
 }  // namespace port
 

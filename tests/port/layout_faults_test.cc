@@ -6,33 +6,47 @@
 namespace port {
 
 TEST(LayoutFaultsTest, ReadsTheFieldsOfALine) {
-  const auto faults = ParseLayoutFaults("overlap\tmain\tok\tcancel\t3 x 20 pixels\n");
+  const auto faults = ParseLayoutFaults(
+      "overlap\tok\tokButton\tmain\t10\t-5\t60\t20\tcancel\tcancelButton\t3\t4\n");
   ASSERT_EQ(faults.size(), 1u);
   EXPECT_EQ(faults[0].kind, "overlap");
-  EXPECT_EQ(faults[0].window, "main");
   EXPECT_EQ(faults[0].widget, "ok");
+  EXPECT_EQ(faults[0].object, "okButton");
+  EXPECT_EQ(faults[0].window, "main");
+  EXPECT_EQ(faults[0].place, "60x20+10-5");
   EXPECT_EQ(faults[0].other, "cancel");
-  EXPECT_EQ(faults[0].detail, "3 x 20 pixels");
+  EXPECT_EQ(faults[0].other_object, "cancelButton");
+  EXPECT_EQ(faults[0].pixels, "3x4");
 }
 
-TEST(LayoutFaultsTest, LeavesMissingFieldsEmptyAndKeepsSurplusOnes) {
-  const auto faults = ParseLayoutFaults("cut\tmain\tok\n\noutside\tw\tx\ty\ta\tb");
+TEST(LayoutFaultsTest, ResolvesEscapes) {
+  EXPECT_EQ(ParseLayoutFaults("cut\ta\\tb\\nc\\\\d\\")[0].widget, "a\tb\nc\\d\\");
+}
+
+TEST(LayoutFaultsTest, LeavesMissingFieldsEmpty) {
+  const auto faults = ParseLayoutFaults("cut\tok\n\noutside\tok\t\tw\n");
   ASSERT_EQ(faults.size(), 2u);
   EXPECT_EQ(faults[0].widget, "ok");
-  EXPECT_EQ(faults[0].other, "");
-  EXPECT_EQ(faults[0].detail, "");
-  EXPECT_EQ(faults[1].detail, "a\tb");
+  EXPECT_EQ(faults[0].place, "");
+  EXPECT_EQ(faults[0].pixels, "");
+  EXPECT_EQ(faults[1].window, "w");
 }
 
 TEST(LayoutFaultsTest, LosesNoLineOfAnotherForm) {
   const auto faults = ParseLayoutFaults("cannot open display\n");
   ASSERT_EQ(faults.size(), 1u);
-  EXPECT_EQ(faults[0].kind, "other");
-  EXPECT_EQ(faults[0].detail, "cannot open display");
+  EXPECT_EQ(faults[0].kind, "note");
+  EXPECT_EQ(faults[0].other, "cannot open display");
 }
 
 TEST(LayoutFaultsTest, GivesPageText) {
-  EXPECT_EQ(ParseLayoutFaults("cut\tm\t\xE9\n")[0].widget, "\u00e9");
+  EXPECT_EQ(ParseLayoutFaults("cut\t\xE9\n")[0].widget, "\u00e9");
+}
+
+TEST(LayoutFaultsTest, TellsLayoutFromIconsAndColours) {
+  const auto faults = ParseLayoutFaults("overlap\t\ncut\t\noutside\t\nnote\nicon\t\ncolor\t\n");
+  ASSERT_EQ(faults.size(), 6u);
+  for (std::size_t i = 0; i < faults.size(); ++i) EXPECT_EQ(IsOfLayout(faults[i]), i < 4) << i;
 }
 
 }  // namespace port

@@ -61,17 +61,19 @@ TEST_F(ReportTest, CountsEverything) {
        {ObjectFate::kShown, ObjectFate::kShown, ObjectFate::kReplaced, ObjectFate::kLost}) {
     model_.objects[AddObject(&model_, BUTTON, "b", -1)].fate = fate;
   }
-  input_.faults = ParseLayoutFaults("overlap\tw\na\ncut\tw\ncut\tw\noutside\tw\n");
+  input_.faults = ParseLayoutFaults(
+      "overlap\tw\na\ncut\tw\ncut\tw\noutside\tw\nicon\tx\t\t\t\t\t\t\tice.xbm\n"
+      "color\tx\t\t\t\t\t\t\tBG7\ncolor\tx\t\t\t\t\t\t\tBG8\n");
   input_.missing_colors = {"BG7"};
   model_.missing_bitmaps = {"sun.xbm", "rain.xbm"};
-  model_.messages = {"one", "two"};
+  model_.messages = {"one", "", "two"};
   input_.sketches = {Sketch{}};
   input_.sketches[0].missing_glyphs = {"icons/sun.icon", "fog.icon"};
   EXPECT_EQ(TotalsLine(CountAll(input_)),
             "5 actions: 1 in the module, 2 in connections.c, 1 call of your functions, 1 lost; "
             "4 objects: 2 shown, 1 replaced, 1 lost; 1 overlap; 2 cut texts; "
-            "1 control outside its container; 3 missing icons; 1 unknown colour; "
-            "2 messages of the converter");
+            "1 control outside its container; 4 missing icons; 2 unknown colours; "
+            "2 lines of messages");
 }
 
 TEST_F(ReportTest, AddsTotals) {
@@ -194,16 +196,18 @@ TEST_F(ReportTest, SaysWhyThereAreNoPictures) {
 }
 
 TEST_F(ReportTest, ShowsFaultsAndWhatIsMissing) {
-  input_.faults = ParseLayoutFaults("overlap\tw\ta\tb\t3 x 4");
+  input_.faults = ParseLayoutFaults(
+      "overlap\ta\taa\tw\t1\t2\t3\t4\tb\tbb\t5\t6\nicon\tx\t\t\t\t\t\t\tsun.xbm\n");
   input_.missing_colors = {"BG7"};
   model_.missing_bitmaps = {"sun.xbm"};
   input_.sketches = {Sketch{}};
   input_.sketches[0].name = "w";
   input_.sketches[0].missing_glyphs = {"sun.icon", "sun.icon"};
   const std::string page = MakeReport(input_);
-  EXPECT_THAT(page,
-              HasSubstr("<tr><td>overlap</td><td>a</td><td>b</td><td>w</td><td>3 x 4</td></tr>"));
-  EXPECT_THAT(page, HasSubstr("<tr><td>sun.icon, sun.xbm</td><td>w, the module</td></tr>"));
+  EXPECT_THAT(
+      page, HasSubstr("<tr><th scope=\"row\">a (aa)</th><td>overlap</td><td>b (bb)</td><td>5x6</td>"
+                      "<td>3x4+1+2</td><td>w</td></tr>"));
+  EXPECT_THAT(page, HasSubstr("<tr><td>sun.icon, sun.xbm</td><td>w, the module, x</td></tr>"));
   EXPECT_THAT(page, HasSubstr("<li>BG7</li>"));
 }
 
@@ -215,12 +219,12 @@ TEST_F(ReportTest, TellsACleanLayoutFromAnUnmeasuredOne) {
 }
 
 TEST_F(ReportTest, ShowsMessagesMendsAndErrors) {
-  model_.messages = {"Cannot find a"};
+  model_.messages = {"Cannot find a", "", "  b"};
   model_.mends = {"line 3: renamed"};
   model_.error = "syntax error";
   const std::string page = MakeReport(input_);
-  EXPECT_THAT(page, HasSubstr("<li>Cannot find a</li>"));
-  EXPECT_THAT(page, HasSubstr("<li>line 3: renamed</li>"));
+  EXPECT_THAT(page, HasSubstr("<pre>Cannot find a\n\n  b</pre>"));
+  EXPECT_THAT(page, HasSubstr("<pre>line 3: renamed</pre>"));
   EXPECT_THAT(page, HasSubstr("<p class=\"lost\">syntax error</p>"));
 }
 
@@ -271,8 +275,9 @@ class HostileReportTest : public ReportTest {
     model_.connections[1].function_type = "CallFunction";
     input_.sketches = DrawSketches(model_, {});
     input_.no_pictures = kHostile;
-    input_.faults = ParseLayoutFaults(std::string(kHostile) + "\t" + kHostile + "\t" + kHostile +
-                                      "\t" + kHostile + "\t" + kHostile);
+    std::string line = "overlap";
+    for (int i = 0; i < 11; ++i) line += std::string("\t") + kHostile;
+    input_.faults = ParseLayoutFaults(line);
     input_.missing_colors = {kHostile};
     input_.version = kHostile;
   }

@@ -203,7 +203,8 @@ TEST(SketchTest, CutsAValueThatIsLongerThanItsField) {
 TEST(SketchTest, DrawsTwoButtonsBehindANumber) {
   EXPECT_THAT(DrawOne(TEXT_FIELD, FieldAt({Word(TEXT_TYPE, NUMERIC), Number(INITIAL_VALUE, 42)})),
               AllOf(HasText(62, 32, "42"), HasSubstr("\"M60 35h60\""),
-                    HasRect(124, 20, 18, 15, kRaised), HasRect(142, 20, 18, 15, kRaised)));
+                    HasRect(124, 20, 18, 15, kRaised), HasRect(142, 20, 18, 15, kRaised),
+                    HasSubstr("\"M129 30h8l-4 -6z\""), HasSubstr("\"M147 25h8l-4 6z\"")));
 }
 
 TEST(SketchTest, DrawsAFieldOfManyLinesAsABox) {
@@ -231,6 +232,13 @@ TEST(SketchTest, DrawsASliderFilledUpToItsValue) {
 TEST(SketchTest, DrawsAnUprightSliderFromTheFoot) {
   EXPECT_THAT(DrawOne(SLIDER, BarAt({Word(ORIENTATION, VERTICAL)})),
               AllOf(HasRect(18, 20, 4, 100), HasRect(18, 70, 4, 50), HasRect(12, 64, 16, 12)));
+}
+
+TEST(SketchTest, PutsAValueWithoutARangeAtTheBeginning) {
+  EXPECT_THAT(
+      DrawOne(SLIDER, At(10, 20, 200, 20,
+                         {Number(SLIDER_WIDTH, 100), Number(MIN_VALUE, 5), Number(MAX_VALUE, 5)})),
+      AllOf(HasRect(10, 28, 0, 4), HasRect(10, 22, 12, 16)));
 }
 
 TEST(SketchTest, DrawsWhatASliderShowsBesides) {
@@ -261,6 +269,17 @@ TEST(SketchTest, DrawsTheTitleAndTheItemsOfAList) {
               AllOf(HasRect(10, 40, 182, 80), HasBold(96, 55, "T"), HasSubstr("\"M10 62h182\""),
                     HasText(16, 74, "a"), HasRect(12, 77, 178, 15, kChosen), HasText(16, 89, "b"),
                     Not(HasRect(12, 62, 178, 15))));
+}
+
+TEST(SketchTest, DrawsTheGlyphsOfItemsAndCutsTheirTexts) {
+  const std::string svg =
+      DrawOne(SCROLLING_LIST, At(10, 20, 118, 100,
+                                 {Number(ROWS, 5), Texts(INITIAL_LIST_GLYPHS, {"", "g"}),
+                                  Texts(INITIAL_LIST_VALUES, {std::string(50, 'a'), "b"})}));
+  // 100 pixels without the scrollbar, 4 and 2 of them before the text: 12 letters and the dots.
+  EXPECT_THAT(svg, AllOf(HasText(16, 34, std::string(12, 'a') + "\u2026"),
+                         // The name of a missing glyph, 7 pixels, in a box with 4 on each side.
+                         HasText(18, 54, "g"), HasText(35, 53, "b")));
 }
 
 static std::vector<GilAttribute> ChoicesAt(int32_t type,
@@ -294,11 +313,18 @@ TEST(SketchTest, PutsChoicesIntoColumnsOrRows) {
 TEST(SketchTest, ShowsTheDefaultOfAStackSetting) {
   EXPECT_THAT(DrawOne(SETTING, ChoicesAt(STACK, {Words(CHOICE_DEFAULTS, {NIL, T})})),
               AllOf(HasRect(50, 20, 18, 18, kRaised), HasText(76, 33, "b"), Not(HasSubstr(">a<"))));
-  EXPECT_THAT(DrawOne(SETTING, ChoicesAt(STACK)), HasText(76, 33, "a"));
+  EXPECT_THAT(DrawOne(SETTING, ChoicesAt(STACK, {Words(CHOICE_DEFAULTS, {NIL, NIL})})),
+              HasText(76, 33, "a"));
 }
 
 TEST(SketchTest, DrawsADropTarget) {
   EXPECT_THAT(DrawOne(DROP_TARGET, At(10, 20, 18, 16)), HasRect(10, 20, 18, 16, kField));
+}
+
+TEST(SketchTest, PutsTheLabelBeforeADropTarget) {
+  EXPECT_THAT(
+      DrawOne(DROP_TARGET, At(10, 20, 60, 16, {Text(LABEL, "a:"), Number(DROP_TARGET_WIDTH, 12)})),
+      AllOf(HasBold(10, 32, "a:"), HasRect(31, 20, 39, 16, kField)));
 }
 
 TEST(SketchTest, PutsALabelAboveWhereTheFileSaysSo) {

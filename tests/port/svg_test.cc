@@ -82,8 +82,8 @@ TEST(CssColorTest, TakesHexadecimalColours) {
 }
 
 TEST(CssColorTest, KnowsTheColoursOfOpenLook) {
-  EXPECT_EQ(CssColor("BG1"), "#cccccc");
-  EXPECT_EQ(CssColor("bg3"), "#666666");
+  EXPECT_EQ(CssColor("BG1"), "rgb(80%,80%,80%)");
+  EXPECT_EQ(CssColor("Highlight"), "white");
 }
 
 TEST(CssColorTest, LetsNothingElseThrough) {
