@@ -41,7 +41,12 @@ std::vector<Widg*> CollectNew(Session& session) {
   while (!open.empty()) {
     const auto [widg, parent] = open.back();
     open.pop_back();
-    if (visited[widg]) continue;
+    if (visited[widg]) {
+      // A menu may stand at the top level and with the control that uses it.
+      Widg*& known = session.parent_of[widg];
+      if (!known) known = parent;
+      continue;
+    }
     visited[widg] = true;
     session.parent_of[widg] = parent;
     if (session.object_of.emplace(widg, -1).second) {
@@ -112,6 +117,16 @@ class Linker {
   std::unordered_map<const Action*, int> by_actions_;
   std::unordered_map<std::string, int> by_name_;
 };
+
+// Whether the widget lies in a window, and not loose in the module, where nobody fetches it.
+bool IsInWindow(const Session& session, const Widg* widg) {
+  std::unordered_map<const Widg*, bool> seen;
+  for (const Widg* at = widg; at && !seen[at]; at = session.parent_of.at(at)) {
+    if (IsShell(at)) return true;
+    seen[at] = true;
+  }
+  return false;
+}
 
 // Why an object has no widget at all.
 std::string ReasonForLoss(const Model& model, const PortObject& object) {
@@ -201,7 +216,9 @@ std::vector<Widg*> OwnWidgets(const Session& session, int object) {
 void SettleObjects(Session& session) {
   std::unordered_map<int, std::vector<Widg*>> widgets_of;
   for (Widg* widg : session.widgets) {
-    if (IsInModule(widg)) widgets_of[session.object_of[widg]].push_back(widg);
+    if (IsInModule(widg) && IsInWindow(session, widg)) {
+      widgets_of[session.object_of[widg]].push_back(widg);
+    }
   }
   Model& model = session.model;
   for (std::size_t i = 0; i < model.objects.size(); ++i) {

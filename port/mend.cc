@@ -75,18 +75,35 @@ void TurnItems(Session& session, Widg* list, const PortObject& object) {
 
 // ---- Groups ----
 
+// The widget that holds the first member of the group, as the file has it; null for none.
+Widg* ContainerOfMembers(const Session& session, const PortObject& group) {
+  const GilAttribute* members = group.Find(MEMBERS);
+  if (!members) return nullptr;
+  for (const GilValue& member : members->values) {
+    for (int index : session.model.files[group.file].objects) {
+      const PortObject& object = session.model.objects[index];
+      if (object.name != member.text || object.parent < 0) continue;
+      const std::vector<Widg*> own = OwnWidgets(session, object.parent);
+      return own.empty() ? nullptr : own[0];
+    }
+  }
+  return nullptr;
+}
+
 // A group is appended to its members' container. When that holds a popup menu, whose list goes on
-// with the other windows, the group came to stand among those and was dropped with the menu.
+// with the other windows, the group comes to stand behind those: a widget that nobody controls.
 void BringBackGroup(Session& session, int index) {
   const PortObject& object = session.model.objects[index];
   for (Widg* group = NewestOfName(object.name.c_str()); group; group = OlderOfName(group)) {
-    if (group->actions != session.objs[index]->actions) continue;
-    Widg* parent = group->place.parent;
-    const bool is_lost = session.object_of.find(group) == session.object_of.end();
-    if (!is_lost || !group->child || !session.object_of.contains(parent)) return;
+    if (group->actions != session.objs[index]->actions || !group->child) continue;
+    const auto parent = session.parent_of.find(group);
+    Widg* container = ContainerOfMembers(session, object);
+    const bool is_loose = parent == session.parent_of.end() || !parent->second;
+    if (!is_loose || !container) return;
+    if (parent != session.parent_of.end()) top_widget = RemoveWidg(top_widget, group);
     group->next = nullptr;
-    AddChildLast(parent, group);
-    Note(session, "group " + object.name + " is back in " + GilText(parent->gil_name));
+    AddChildLast(container, group);
+    Note(session, "group " + object.name + " is back in " + GilText(container->gil_name));
     return;
   }
 }

@@ -165,6 +165,14 @@ TEST_F(ConversionTest, LosesNothingWithoutAReason) {
   EXPECT_NE(model.objects.back().reason, "");
 }
 
+TEST_F(ConversionTest, TellsOfAMenuThatNothingUses) {
+  const Model model = ConvertText(kWindow + Object("menu", "loose", "nil",
+                                                   ":menu-type :command :menu-item-labels (\"X\")"
+                                                   " :menu-item-label-types (:string)"));
+  EXPECT_EQ(model.objects.back().fate, ObjectFate::kLost);
+  EXPECT_EQ(model.objects.back().reason, "no control uses the menu");
+}
+
 TEST_F(ConversionTest, PutsSubMenusOnTheItemsThatNameThem) {
   const Model model = ConvertText(
       Object("menu", "sub", "nil",
@@ -189,6 +197,19 @@ TEST_F(ConversionTest, PutsListItemsInTheOrderOfTheFile) {
                                    " :initial-list-values (\"one\" \"two\" \"three\")"));
   EXPECT_LT(model.module.find("\"one\""), model.module.find("\"two\""));
   EXPECT_LT(model.module.find("\"two\""), model.module.find("\"three\""));
+}
+
+TEST_F(ConversionTest, BringsBackAGroupBesideAPopupMenu) {
+  const Model model = ConvertText(
+      Object("menu", "popup", "nil",
+             ":menu-type :command :menu-item-labels (\"X\") :menu-item-label-types (:string)") +
+      Object("base-window", "win", "nil", ":label \"Win\"") +
+      Object("control-area", "area", "win", ":menu popup") +
+      Object("button", "go", "area", ":label \"Go\" :label-type :string :menu nil") +
+      "( :type :group :name pair :x 10 :y 10 :group-type :row :members (go) )\n");
+  const std::string area = model.module.substr(model.module.find("\narea:XmBulletinBoard"));
+  EXPECT_NE(area.substr(0, area.find("arguments")).find("XmBulletinBoard pair;"),
+            std::string::npos);
 }
 
 TEST_F(ConversionTest, NamesTheWidgetThatAnArgumentMeans) {
