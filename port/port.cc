@@ -131,6 +131,9 @@ PortResult PortInterface(const Job& job) {
   if (!fs::is_regular_file(job.input, error)) {
     return Failure(PortStatus::kFailed, job.input.string() + ": no such file");
   }
+  if (!job.templates.empty() && !fs::is_directory(job.templates, error)) {
+    return Failure(PortStatus::kUsage, job.templates.string() + ": no such folder of templates");
+  }
   Folder folder(job.output);
   if (!folder.Error().empty()) return Failure(PortStatus::kUsage, folder.Error());
   const Model model = ConvertInterface({job.input, job.options, folder.Scratch()});

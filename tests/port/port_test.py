@@ -163,6 +163,10 @@ class Folders(PortTest):
         self.assertEqual(snapshot(self.app), before)
         self.assert_nothing_beside()
 
+    def test_refuses_templates_that_are_not_there(self):
+        self.port("--templates", self.scratch / "none", CONTROLS, status=2)
+        self.assertFalse(self.app.exists())
+
     def test_takes_the_users_templates(self):
         templates = self.scratch / "templates"
         templates.mkdir()
