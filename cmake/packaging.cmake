@@ -8,7 +8,7 @@ add_custom_target(uninstall
 
 # What an installation needs, without the tests.
 add_custom_target(programs)
-foreach(program IN ITEMS pandrel gildump pandrel-uilfix pandrel-view)
+foreach(program IN ITEMS pandrel gildump pandrel-uilfix pandrel-port pandrel-view)
   if(TARGET ${program})
     add_dependencies(programs ${program})
   endif()

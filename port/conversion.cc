@@ -121,7 +121,11 @@ void ConvertFile(Session& session, int file, Widg** list_link) {
   LinkWidgets(session, first_object);
 }
 
+// A project may name itself.
+constexpr std::size_t kMostFiles = 1000;
+
 int AddFile(Session& session, const std::string& name) {
+  if (session.model.files.size() >= kMostFiles) Error("Too many files in the project");
   GilFile file;
   file.name = name;
   session.model.files.push_back(file);
@@ -151,6 +155,7 @@ void ConvertMembers(Session& session) {
       std::fputs("pandrel: Project without any interfaces\n", stdout);
     }
     pending = nullptr;
+    project = nullptr;
     for (const Value* name = interfaces; name; name = name->next) {
       ConvertMember(session, ValueText(name));
       if (project) pending = project;

@@ -7,6 +7,8 @@
 #include <set>
 #include <string_view>
 
+#include "port/library_names.h"
+
 #include "widget/tree.h"
 
 namespace port {
@@ -100,47 +102,10 @@ constexpr std::string_view kKeywords[] = {"alignas",
                                           "xor",
                                           "xor_eq"};
 
-// What the C library and the system's headers define, as far as names of callbacks may meet it: a
-// function of such a name would not compile, or would replace the library's for the whole program.
-constexpr std::string_view kLibrary[] = {
-    "NULL", "FILE", "EOF", "True", "False", "None", "abort", "abs", "accept", "access", "acos",
-    "alarm", "asctime", "asin", "assert", "atan", "atan2", "atexit", "atof", "atoi", "atol",
-    "basename", "bcmp", "bcopy", "bind", "bsearch", "bzero", "cabs", "calloc", "ceil", "chdir",
-    "chmod", "chown", "clearerr", "clock", "close", "closedir", "connect", "cos", "cosh", "creat",
-    "crypt", "ctime", "difftime", "dirname", "div", "dup", "dup2", "end", "environ", "erf", "errno",
-    "etext", "edata", "execl", "execle", "execlp", "execv", "execve", "execvp", "exit", "exp",
-    "fabs", "fclose", "fcntl", "fdopen", "feof", "ferror", "fflush", "ffs", "fgetc", "fgets",
-    "fileno", "floor", "fmod", "fopen", "fork", "fprintf", "fputc", "fputs", "fread", "free",
-    "freopen", "frexp", "fscanf", "fseek", "fstat", "ftell", "fwrite", "gamma", "getc", "getchar",
-    "getcwd", "getenv", "getgid", "getline", "getlogin", "getopt", "getpid", "getpwnam", "getpwuid",
-    "gets", "getuid", "getw", "gmtime", "hypot", "index", "ioctl", "isalnum", "isalpha", "isatty",
-    "isdigit", "islower", "isspace", "isupper", "j0", "j1", "jn", "kill", "labs", "ldexp", "lgamma",
-    "link", "listen", "localtime", "log", "log10", "longjmp", "lseek", "main", "malloc", "memcmp",
-    "memcpy", "memmove", "memset", "mkdir", "mkfifo", "mktime", "modf", "mount", "nice", "open",
-    "opendir", "optarg", "optind", "pause", "pclose", "perror", "pipe", "poll", "popen", "pow",
-    "printf", "putc", "putchar", "putenv", "puts", "putw", "qsort", "raise", "rand", "random",
-    "read", "readdir", "readlink", "realloc", "recv", "regcomp", "remove", "rename", "rewind",
-    "rindex", "rmdir", "round", "scalb", "scanf", "select", "send", "setbuf", "setenv", "setjmp",
-    "setlocale", "setuid", "shutdown", "sigaction", "signal", "significand", "sin", "sinh", "sleep",
-    "socket", "sprintf", "sqrt", "srand", "sscanf", "stat", "stderr", "stdin", "stdout", "stpcpy",
-    "strcat", "strchr", "strcmp", "strcpy", "strdup", "strerror", "strlen", "strncat", "strncmp",
-    "strncpy", "strrchr", "strstr", "strtok", "strtol", "symlink", "sync", "sysinfo", "system",
-    "tan", "tanh", "time", "times", "tmpfile", "tolower", "toupper", "truncate", "ttyname", "tzset",
-    "umask", "umount", "uname", "ungetc", "unlink", "usleep", "utime", "vfork", "vprintf", "wait",
-    "waitpid", "write", "y0", "y1", "yn",
-    // Types, macros and names of Xlib and the toolkit that have no prefix of their own.
-    "Arg", "ArgList", "Atom", "Bool", "Boolean", "Bitmap", "Cardinal", "Colormap", "Cursor",
-    "Dimension", "Display", "Drawable", "Font", "GC", "KeyCode", "KeySym", "Mask", "Pixel",
-    "Pixmap", "Position", "Region", "Screen", "Status", "String", "Time", "Visual", "Widget",
-    "WidgetClass", "WidgetList", "Window", "Above", "Below", "BitmapOpenFailed", "ButtonPress",
-    "ButtonRelease", "Complex", "Convex", "Expose", "KeyPress", "KeyRelease", "MotionNotify",
-    "EnterNotify", "LeaveNotify", "FocusIn", "FocusOut", "Success", "BadValue", "BadWindow",
-    "Always", "Never", "Button1", "Button2", "Button3", "Nonconvex", "Opposite", "Unsorted",
-    "shellWidgetClass", "topLevelShellWidgetClass", "applicationShellWidgetClass"};
-
 // What the generated files define where your functions are declared. tests/port tries every word of
 // the templates.
 constexpr std::string_view kOurs[] = {
+    "UseSubstituteLetters",
     "ALWAYS",
     "AddConnections",
     "COUNT",
@@ -212,8 +177,8 @@ constexpr std::string_view kOurs[] = {
 
 // Prefixes of names that belong to the libraries and to the other files of the program.
 constexpr std::string_view kPrefixes[] = {
-    "Xt",  "Xm",  "_X",       "Zo",  "Mrm",      "MRM",   "XA_",     "XK_",       "__",
-    "str", "mem", "pthread_", "SIG", "setting_", "work_", "popups_", "resources_"};
+    "Xt", "Xm",  "xm",  "_X",       "Zo",  "Mrm",      "MRM",   "XA_",     "XK_",
+    "__", "str", "mem", "pthread_", "SIG", "setting_", "work_", "popups_", "resources_"};
 
 bool IsWordByte(char c) {
   return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_';
@@ -305,8 +270,7 @@ std::string CWord(const std::string& text) {
 
 bool IsTaken(const std::string& word) {
   const auto is_word = [&](std::string_view known) { return known == word; };
-  return std::any_of(std::begin(kKeywords), std::end(kKeywords), is_word) ||
-         std::any_of(std::begin(kLibrary), std::end(kLibrary), is_word) ||
+  return std::any_of(std::begin(kKeywords), std::end(kKeywords), is_word) || IsLibraryName(word) ||
          std::any_of(std::begin(kOurs), std::end(kOurs), is_word) || HasLibraryPrefix(word);
 }
 

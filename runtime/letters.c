@@ -28,13 +28,11 @@ static const char* Lookup(Display* display, const char* rendition, const char* r
   return XrmGetResource(XtDatabase(display), name, class_name, &type, &value) ? value.addr : NULL;
 }
 
+/* For any shell: a program may have several, each of another name. */
 static void Put(Display* display, const char* rendition, const char* resource, const char* value) {
   char name[NAME_SIZE];
-  String application = NULL;
-  String application_class = NULL;
   XrmDatabase database = XtDatabase(display);
-  XtGetApplicationNameAndClass(display, &application, &application_class);
-  snprintf(name, sizeof name, "%s*%s.%s", application, rendition, resource);
+  snprintf(name, sizeof name, "?*%s.%s", rendition, resource);
   XrmPutStringResource(&database, name, value);
 }
 

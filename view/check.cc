@@ -131,9 +131,10 @@ class Checker {
 
   void CheckText(Widget widget, const Rectangle& place) {
     const Need need = TextNeed(widget);
-    if (need.across <= 0 && need.down <= 0) return;
+    const std::string text = LabelString(widget);
+    if (text.empty() || (need.across <= 0 && need.down <= 0)) return;
     Finding finding = Begin(Finding::Kind::kCut, widget, place);
-    finding.other = LabelString(widget);
+    finding.other = text;
     finding.across = std::max(need.across, 0);
     finding.down = std::max(need.down, 0);
     findings_.push_back(std::move(finding));
@@ -237,7 +238,7 @@ std::string Sentence(const Finding& finding) {
       return place + " reaches out of " + Named(finding.other, finding.other_object) + " by " +
              amount;
     case Finding::Kind::kIcon:
-      return "widget " + subject + ": icon \"" + Escaped(finding.other) + "\" cannot be read";
+      return "widget " + subject + ": icon \"" + Escaped(finding.other) + "\" cannot be shown";
     case Finding::Kind::kColor:
       break;
   }

@@ -35,6 +35,18 @@ std::string AttributeOf(std::string_view object, std::string_view keyword) {
   return "";
 }
 
+constexpr std::string_view kType = ":type";
+
+// Calls `visit` with the text of each object, from its type to the next object's.
+template <typename Visit>
+void ForEachObject(std::string_view gil, Visit visit) {
+  for (std::size_t at = gil.find(kType); at != std::string_view::npos;) {
+    const std::size_t next = gil.find(kType, at + 1);
+    visit(gil.substr(at, next - at));
+    at = next;
+  }
+}
+
 }  // namespace
 
 std::vector<std::string> ReadGilNames(std::string_view gil) {
@@ -51,17 +63,24 @@ std::vector<std::string> ReadGilNames(std::string_view gil) {
 }
 
 std::vector<std::string> ReadPinnedPopups(std::string_view gil) {
-  constexpr std::string_view kObject = ":type";
   std::vector<std::string> names;
-  for (std::size_t at = gil.find(kObject); at != std::string_view::npos;) {
-    const std::size_t next = gil.find(kObject, at + 1);
-    const std::string_view object = gil.substr(at, next - at);
-    if (AttributeOf(object, kObject) == ":popup-window" && AttributeOf(object, ":pinned") == "t") {
+  ForEachObject(gil, [&](std::string_view object) {
+    if (AttributeOf(object, kType) == ":popup-window" && AttributeOf(object, ":pinned") == "t") {
       names.push_back(AttributeOf(object, ":name"));
     }
-    at = next;
-  }
+  });
   return names;
+}
+
+std::vector<GlyphButton> ReadGlyphButtons(std::string_view gil) {
+  std::vector<GlyphButton> buttons;
+  ForEachObject(gil, [&](std::string_view object) {
+    const std::string label = AttributeOf(object, ":label");
+    if (AttributeOf(object, kType) != ":button" || label.size() < 2) return;
+    if (AttributeOf(object, ":label-type") != ":glyph") return;
+    buttons.push_back({AttributeOf(object, ":name"), label.substr(1, label.size() - 2)});
+  });
+  return buttons;
 }
 
 std::string ReadGilText(const std::filesystem::path& file) {

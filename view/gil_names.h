@@ -16,6 +16,15 @@ std::vector<std::string> ReadGilNames(std::string_view gil);
 // The names of the popup windows of a GIL text whose pins are in at the start.
 std::vector<std::string> ReadPinnedPopups(std::string_view gil);
 
+struct GlyphButton {
+  std::string name;
+  std::string icon;  // the file, as the GIL text names it
+};
+
+// The buttons of a GIL text that show an icon. The converter leaves them the icon's name for a
+// label.
+std::vector<GlyphButton> ReadGlyphButtons(std::string_view gil);
+
 // The text of a GIL file; of a project, with those of the interface files in its folder behind it.
 // Empty when the file cannot be read.
 std::string ReadGilText(const std::filesystem::path& file);

@@ -140,14 +140,17 @@ std::string CompilationError(const Options& options, const Compilation& compilat
 
 // Takes out of the module what Motif would crash on, with a line on standard error for each.
 // Returns whether there was nothing.
-bool LeaveOutStrayChildren(uilfix::Module& module, const std::vector<std::string>& gil_names) {
+std::set<std::string> LeaveOutStrayChildren(uilfix::Module& module,
+                                            const std::vector<std::string>& gil_names) {
+  std::set<std::string> names;
   const auto strays = RemoveStrayChildren(module);
   for (const StrayChild& stray : strays) {
     std::cerr << "pandrel-view: widget " << WidgetAndObject(gil_names, stray.child)
               << " is left out: it stands in " << stray.parent << ", and " << stray.parent_class
               << " cannot have it\n";
+    names.insert(stray.child);
   }
-  return strays.empty();
+  return names;
 }
 
 Interface FromModule(const Options& options, const fs::path& scratch, const fs::path& folder,
@@ -159,7 +162,7 @@ Interface FromModule(const Options& options, const fs::path& scratch, const fs::
   interface.module = uilfix::ParseModule(text);
   interface.gil_names = gil_names;
   ReplaceOpenLookColors(interface.module);
-  interface.whole = LeaveOutStrayChildren(interface.module, gil_names);
+  interface.left_out = LeaveOutStrayChildren(interface.module, gil_names);
   interface.uid = scratch / "module.uid";
   const fs::path uil = scratch / "module.uil";
   if (!uilfix::WriteFile(uil.string(), uilfix::RenderModule(interface.module))) {
@@ -183,6 +186,7 @@ Interface FromGil(const Options& options, const fs::path& scratch, const fs::pat
   const std::string gil = ReadGilText(file);
   Interface interface = FromModule(options, scratch, folder, *text, ReadGilNames(gil));
   interface.pinned_popups = ReadPinnedPopups(gil);
+  interface.glyph_buttons = ReadGlyphButtons(gil);
   return interface;
 }
 

@@ -4,9 +4,11 @@
 #define PANDREL_VIEW_INPUT_H
 
 #include <filesystem>
+#include <set>
 #include <string>
 #include <vector>
 
+#include "gil_names.h"
 #include "uilfix/module.h"
 #include "view_options.h"
 
@@ -21,7 +23,8 @@ struct Interface {
   uilfix::Module module;
   std::vector<std::string> gil_names;      // of the objects in the GIL file, if that is at hand
   std::vector<std::string> pinned_popups;  // among them, the popups whose pins are in
-  bool whole = true;                       // false when something had to be left out
+  std::vector<GlyphButton> glyph_buttons;  // and the buttons with an icon
+  std::set<std::string> left_out;          // widgets that are in the module and in no window
 };
 
 // Does all that comes before the first window. Notes go to standard error. The user's folders are

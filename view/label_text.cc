@@ -10,21 +10,25 @@ struct Freed {
   void operator()(char* text) const { XtFree(text); }
 };
 
-}  // namespace
-
-std::string LabelString(Widget widget) {
-  char newline[] = "\n";
-  XmString label = nullptr;
-  XtVaGetValues(widget, XmNlabelString, &label, nullptr);
+XmParseMapping SeparatorsAsLineEnds() {
+  static char newline[] = "\n";
   XmString separator = XmStringSeparatorCreate();
   Arg arguments[2];
   XtSetArg(arguments[0], XmNpattern, newline);
   XtSetArg(arguments[1], XmNsubstitute, separator);
   XmParseMapping mapping = XmParseMappingCreate(arguments, 2);
-  const std::unique_ptr<char, Freed> text(static_cast<char*>(
-      XmStringUnparse(label, nullptr, XmCHARSET_TEXT, XmCHARSET_TEXT, &mapping, 1, XmOUTPUT_ALL)));
-  XmParseMappingFree(mapping);
   XmStringFree(separator);
+  return mapping;
+}
+
+}  // namespace
+
+std::string LabelString(Widget widget) {
+  static XmParseMapping line_ends = SeparatorsAsLineEnds();
+  XmString label = nullptr;
+  XtVaGetValues(widget, XmNlabelString, &label, nullptr);
+  const std::unique_ptr<char, Freed> text(static_cast<char*>(XmStringUnparse(
+      label, nullptr, XmCHARSET_TEXT, XmCHARSET_TEXT, &line_ends, 1, XmOUTPUT_ALL)));
   XmStringFree(label);
   return text ? text.get() : "";
 }

@@ -76,6 +76,7 @@ std::string PrivateServer::Start(const std::filesystem::path& scratch) {
   const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
   process_ = fork();
   if (process_ == 0) Become(command, nowhere, SIGTERM);
+  setpgid(process_, process_);
   close(nowhere);
   close(ends[1]);
   const std::string number = process_ > 0 ? ReadNumber(ends[0]) : "";
@@ -87,8 +88,8 @@ std::string PrivateServer::Start(const std::filesystem::path& scratch) {
 
 PrivateServer::~PrivateServer() {
   if (process_ <= 0) return;
-  // On SIGTERM it removes its socket and lock.
-  kill(process_, SIGTERM);
+  // On SIGTERM it removes its socket and lock. While it starts it may have programs of its own.
+  kill(-process_, SIGTERM);
   EndChild(process_, kEndLimit, SIGKILL);
 }
 

@@ -2,6 +2,8 @@
 #include "session.h"
 
 #include <Mrm/MrmAppl.h>
+#include <Xm/CascadeB.h>
+#include <Xm/PushB.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -13,6 +15,7 @@
 #include "check.h"
 #include "gil_names.h"
 #include "held_errors.h"
+#include "label_text.h"
 #include "listing.h"
 #include "load_warnings.h"
 #include "missing_parts.h"
@@ -66,7 +69,7 @@ std::vector<Shell> Plans(const Interface& interface, MrmHierarchy hierarchy,
       Provide(declaration->name);
     }
   }
-  return ReadShells(interface.module);
+  return ReadShells(interface.module, interface.left_out);
 }
 
 // The dialogs of the popups whose pins are in.
@@ -85,15 +88,16 @@ std::vector<std::string> PinnedDialogs(const Interface& interface,
 // What the session and the toolkit's handlers share. There is one session per process.
 struct Session {
   Windows windows;
-  std::string file;       // as the user named it
-  bool compiled = false;  // the file is a compiled module, which may be damaged
+  MrmHierarchy hierarchy = nullptr;  // open to the end
+  std::string file;                  // as the user named it
+  bool compiled = false;             // the file is a compiled module, which may be damaged
   HeldErrors* held = nullptr;
   std::filesystem::path places;
 };
 Session session;
 
 // The toolkit calls this when it cannot go on.
-void GiveUp(String message) {
+__attribute__((noreturn)) void GiveUp(String message) {
   if (session.held && session.compiled) session.held->Discard();
   std::cerr << kProgram << ": " << session.file
             << (session.compiled ? ": damaged: " : ": the toolkit gives up: ") << message
@@ -176,7 +180,8 @@ bool RunBatch(const Options& options, const Interface& interface, std::vector<Fi
 
 // -geometry is about the first window.
 void ApplyGeometry(const Windows& windows) {
-  std::string geometry = ProgramResource(windows.toolkit, "geometry");
+  static std::string geometry;  // the toolkit keeps the pointer
+  geometry = ProgramResource(windows.toolkit, "geometry");
   if (geometry.empty() || windows.windows.empty()) return;
   XtVaSetValues(windows.windows.front().shell, XmNgeometry, geometry.data(), nullptr);
 }
@@ -185,6 +190,25 @@ void ApplyGeometry(const Windows& windows) {
 Widget FindWidget(const std::string& name) {
   if (session.windows.windows.empty()) return nullptr;
   return ZoFind(session.windows.windows.front().shell, name.c_str());
+}
+
+// The buttons that should show an icon and have its name for a label. Resources of the user's may
+// have given a button its icon.
+std::vector<MissingPart> FindGlyphButtons(const Interface& interface) {
+  std::vector<MissingPart> missing;
+  const auto look = [&](Widget widget) {
+    if (!XmIsPushButton(widget) && !XmIsCascadeButton(widget)) return;
+    unsigned char type = XmSTRING;
+    XtVaGetValues(widget, XmNlabelType, &type, nullptr);
+    const std::string object = GuessGilName(interface.gil_names, XtName(widget));
+    for (const GlyphButton& button : interface.glyph_buttons) {
+      if (type != XmSTRING || button.name != object || LabelString(widget) != button.icon) continue;
+      missing.push_back({MissingPart::Kind::kIcon, XtName(widget), button.icon});
+      return;
+    }
+  };
+  for (const Window& window : session.windows.windows) WalkWidgets(window.shell, look);
+  return missing;
 }
 
 // Tells what is missing and draws boxes for icons. Returns the same as findings.
@@ -207,21 +231,28 @@ std::vector<Finding> TellMissingParts(const std::vector<MissingPart>& parts,
   return findings;
 }
 
+// The text with "?" for the bytes of a damaged file that a terminal might take for commands.
+std::string Printable(std::string text) {
+  std::replace_if(
+      text.begin(), text.end(), [](unsigned char byte) { return byte < ' ' || byte > '~'; }, '?');
+  return text;
+}
+
 // Tells what the toolkit said while it read the module. Of a compiled module without its source
 // this is all that is known about icons and colours. Returns whether the module is whole.
 bool TellWarnings(const LoadWarnings& warnings, const Interface& interface) {
-  if (!interface.has_module) {
-    for (const std::string& icon : warnings.icons) {
-      std::cerr << kProgram << ": icon \"" << icon << "\" cannot be read\n";
-    }
-    for (const std::string& color : warnings.colors) {
-      std::cerr << kProgram << ": colour \"" << color << "\" is not known\n";
-    }
-  }
   if (session.compiled && !warnings.damage.empty()) {
     std::cerr << kProgram << ": " << session.file << ": damaged; what can be read of it is shown ("
-              << warnings.damage.front() << ")\n";
+              << Printable(warnings.damage.front()) << ")\n";
     return false;
+  }
+  if (!interface.has_module) {
+    for (const std::string& icon : warnings.icons) {
+      std::cerr << kProgram << ": icon \"" << Printable(icon) << "\" cannot be shown\n";
+    }
+    for (const std::string& color : warnings.colors) {
+      std::cerr << kProgram << ": colour \"" << Printable(color) << "\" is not known\n";
+    }
   }
   for (const std::string& warning : warnings.damage) std::cerr << "Warning: " << warning << "\n";
   for (const std::string& warning : warnings.others) std::cerr << "Warning: " << warning << "\n";
@@ -262,8 +293,8 @@ int RunSession(const Options& options, const Interface& interface, const Session
 
   std::string uid = interface.uid.string();
   char* files[] = {uid.data()};
-  MrmHierarchy hierarchy = nullptr;
-  bool ok = interface.whole;
+  MrmHierarchy& hierarchy = session.hierarchy;
+  bool ok = interface.left_out.empty();
   std::vector<MissingPart> missing;
   {
     const WarningCollector collector(toolkit.app);
@@ -280,6 +311,8 @@ int RunSession(const Options& options, const Interface& interface, const Session
     if (session.compiled && !warnings.damage.empty()) held.Discard();
     ok = TellWarnings(warnings, interface) && all && ok;
   }
+  const auto buttons = FindGlyphButtons(interface);
+  missing.insert(missing.end(), buttons.begin(), buttons.end());
   const std::vector<Finding> findings = TellMissingParts(missing, interface);
   PostPopupMenus(session.windows);
   ApplyGeometry(session.windows);

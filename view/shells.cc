@@ -89,10 +89,12 @@ std::string OwnerOf(const std::string& name, const std::map<std::string, std::st
 }
 
 std::vector<Shell> ShellPerLooseObject(const uilfix::Module& module,
-                                       const std::map<std::string, std::string>& parents) {
+                                       const std::map<std::string, std::string>& parents,
+                                       const std::set<std::string>& left_out) {
   std::vector<Shell> shells;
   uilfix::ForEachObject(module, [&](const Object& object) {
-    if (parents.contains(object.name) || IsMenuClass(object.class_name)) return;
+    if (parents.contains(object.name) || left_out.contains(object.name)) return;
+    if (IsMenuClass(object.class_name)) return;
     Shell shell;
     shell.name = object.name + "_shell";
     shell.work.push_back({object.name, true});
@@ -103,7 +105,7 @@ std::vector<Shell> ShellPerLooseObject(const uilfix::Module& module,
 
 }  // namespace
 
-std::vector<Shell> ReadShells(const uilfix::Module& module) {
+std::vector<Shell> ReadShells(const uilfix::Module& module, const std::set<std::string>& left_out) {
   std::vector<Shell> shells;
   std::map<std::string, std::string> parents;
   std::set<std::string> top_levels;
@@ -114,7 +116,7 @@ std::vector<Shell> ReadShells(const uilfix::Module& module) {
     shells.push_back(ReadShell(object));
     if (!shells.back().dialog) top_levels.insert(object.name);
   });
-  if (shells.empty()) return ShellPerLooseObject(module, parents);
+  if (shells.empty()) return ShellPerLooseObject(module, parents, left_out);
   for (Shell& shell : shells) {
     if (shell.dialog) shell.owner = OwnerOf(shell.name, parents, top_levels);
   }

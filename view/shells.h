@@ -4,6 +4,7 @@
 #ifndef PANDREL_VIEW_SHELLS_H
 #define PANDREL_VIEW_SHELLS_H
 
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -33,8 +34,9 @@ struct Shell {
 };
 
 // The shells of a module, in its order. A module without shell comments gives one unnamed window
-// per object that no other controls, menus left out.
-std::vector<Shell> ReadShells(const uilfix::Module& module);
+// per object that no other controls, menus and the objects in `left_out` excepted.
+std::vector<Shell> ReadShells(const uilfix::Module& module,
+                              const std::set<std::string>& left_out = {});
 
 }  // namespace view
 

@@ -4,11 +4,10 @@
 #include <X11/Shell.h>
 #include <Xm/RowColumn.h>
 
-#include <cctype>
 #include <set>
 
+#include "uid_texts.h"
 #include "uilfix/module_files.h"
-#include "uilfix/reserved_words.h"
 #include "widget_tree.h"
 
 namespace view {
@@ -65,20 +64,7 @@ Trial FetchAll(MrmHierarchy hierarchy, const Toolkit& toolkit,
 }  // namespace
 
 std::vector<std::string> ReadUidNames(const std::filesystem::path& uid) {
-  const std::string bytes = uilfix::ReadFile(uid.string()).value_or("");
-  std::vector<std::string> names;
-  std::set<std::string> known;
-  std::string run;
-  for (char c : bytes) {
-    if (std::isgraph(static_cast<unsigned char>(c))) {
-      run += c;
-      continue;
-    }
-    const bool name = uilfix::HasNameForm(run) && run.size() <= uilfix::kMaxName;
-    if (c == '\0' && name && known.insert(run).second) names.push_back(run);
-    run.clear();
-  }
-  return names;
+  return FindNames(uilfix::ReadFile(uid.string()).value_or(""));
 }
 
 std::vector<Shell> ShellsOfUid(MrmHierarchy hierarchy, const Toolkit& toolkit,

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # The fuzz targets. Each is built for libFuzzer with PANDREL_FUZZ, and with a plain main that replays
 # files for the tests of every build.
-set(fuzz_targets names strings reader convert)
+set(fuzz_targets names strings reader convert uid)
 set(fuzz_dir ${CMAKE_CURRENT_LIST_DIR})
 
 # Not under test here (mutator_tests is for that), so neither instrumented nor watched: half of a
@@ -14,6 +14,11 @@ target_compile_options(gil_mutator PRIVATE -O2)
 function(add_fuzz_executable name target main)
   add_executable(${name} ${fuzz_dir}/fuzz_${target}.cc ${main})
   target_link_libraries(${name} PRIVATE pandrel_core)
+  if(target STREQUAL "uid")
+    target_sources(${name} PRIVATE ${CMAKE_SOURCE_DIR}/view/uid_texts.cc)
+    target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/view)
+    target_link_libraries(${name} PRIVATE pandrel_uilfix)
+  endif()
   if(target MATCHES "^(reader|convert)$")
     target_sources(${name} PRIVATE ${fuzz_dir}/confinement.cc ${fuzz_dir}/session.cc
       ${fuzz_dir}/shell_grammar.cc)

@@ -79,6 +79,8 @@ TEST_F(ConversionTest, WritesTheModulesOfTheConverter) {
       if (word.starts_with("-D") || word.find_first_of("\"'$<>|") != word.npos) ordinary = false;
     }
     if (!ordinary) continue;
+    // Its file has a name that no checkout can hold; the runner of the cases makes it.
+    if (fs::exists(entry.path() / "setup")) continue;
     const Model model = Convert(input, options);
     const bool mended_before =
         std::any_of(model.mends.begin(), model.mends.end(), [](const std::string& mend) {
@@ -143,7 +145,7 @@ TEST_F(ConversionTest, LetsTheModuleCallNothingBeforeItsTurn) {
   EXPECT_FALSE(model.connections[0].in_module);
   EXPECT_FALSE(model.connections[1].in_module);
   EXPECT_EQ(model.connections[1].fate, ConnectionFate::kFunction);
-  EXPECT_EQ(model.module.find("second();\n"), model.module.find("procedure second") + 10);
+  EXPECT_EQ(model.module.find("second()"), std::string::npos);
 }
 
 TEST_F(ConversionTest, LosesNothingWithoutAReason) {

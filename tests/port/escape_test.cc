@@ -28,7 +28,7 @@ TEST(CComment, CannotBeEnded) {
   EXPECT_EQ(CComment("ends with *"), "ends with * ");
 }
 
-TEST(CComment, BeginsNoOther) { EXPECT_EQ(CComment("/*"), "/ *"); }
+TEST(CComment, BeginsNoOther) { EXPECT_EQ(CComment("/*x"), "/ *x"); }
 
 TEST(CComment, StaysOnItsLine) {
   EXPECT_EQ(CComment("a\nb\rc"), "a b c");

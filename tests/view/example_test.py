@@ -27,7 +27,7 @@ class Hello(unittest.TestCase):
         subprocess.run(["make", "-C", str(folder / "motif"), "CFLAGS=-Wall -Wextra -Werror"],
                        check=True, timeout=SECONDS * 2, env=environment,
                        stdout=subprocess.DEVNULL)
-        listing = subprocess.run([f"{PROGRAMS[0]}/pandrel-view", "--list",
+        listing = subprocess.run([f"{PROGRAMS[0]}/pandrel-view", "--compact", "--list",
                                   str(folder / "hello.G")], check=True, capture_output=True,
                                  text=True, timeout=SECONDS, env=environment).stdout
         button = next(widget for widget in parse_listing(listing) if widget.name == "greetButton")

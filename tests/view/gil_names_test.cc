@@ -26,5 +26,24 @@ TEST(GilNames, LongestFittingNameIsGuessed) {
   EXPECT_EQ(GuessGilName(names, "bboard"), "");
 }
 
+TEST(GilNames, PopupsWithTheirPinsIn) {
+  EXPECT_THAT(ReadPinnedPopups("((:type :popup-window :name a :pinned t)"
+                               "(:type :popup-window :name b :pinned nil)"
+                               "(:type :base-window :name c :pinned t)"
+                               "(:type :popup-window :name d)(:type :button :pinned t))"),
+              ElementsAre("a"));
+}
+
+TEST(GilNames, ButtonsWithIcons) {
+  const auto buttons = ReadGlyphButtons(
+      "((:type :button :name a :label \"a.icon\" :label-type :glyph)"
+      "(:type :button :name b :label \"b.icon\" :label-type :string)"
+      "(:type :message :name c :label \"c.icon\" :label-type :glyph)"
+      "(:type :button :name d :label-type :glyph))");
+  ASSERT_EQ(buttons.size(), 1u);
+  EXPECT_EQ(buttons[0].name, "a");
+  EXPECT_EQ(buttons[0].icon, "a.icon");
+}
+
 }  // namespace
 }  // namespace view

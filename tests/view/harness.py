@@ -18,7 +18,8 @@ SCREEN = "1024x768x24"
 class Server:
     """An Xvfb on a free display, with mwm when asked for. Ends with its `with` block."""
 
-    def __init__(self, window_manager=False):
+    def __init__(self, *options, window_manager=False):
+        self.options = options
         self.window_manager = window_manager
         self.processes = []
 
@@ -29,7 +30,7 @@ class Server:
         # for a window) and turns away a program that connects in that moment.
         self.processes.append(subprocess.Popen(
             ["Xvfb", "-displayfd", str(write), "-screen", "0", SCREEN, "-nolisten", "tcp",
-             "-noreset"], pass_fds=[write], **quiet))
+             "-noreset", *self.options], pass_fds=[write], **quiet))
         os.close(write)
         with os.fdopen(read) as stream:
             self.display = ":" + stream.readline().strip()
