@@ -23,8 +23,7 @@ struct LayoutFault {
 
 // The findings in the lines of the check: kind, widget, object, window, x, y, width, height, other,
 // its object, across and down, with tabs between them; \t, \n and \\ stand for a tab, a newline and
-// a backslash. Fields that a line lacks are empty. A line without a tab is of the kind "note" with
-// the line in `other`, so that nothing is lost; empty lines are skipped.
+// a backslash. Fields that a line lacks are empty. A line without a tab is none.
 std::vector<LayoutFault> ParseLayoutFaults(std::string_view lines);
 
 // Whether it is one of the layout, not of icons and colours.

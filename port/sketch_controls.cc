@@ -428,6 +428,7 @@ static void DrawChoices(Sheet& sheet, const PortObject& obj) {
   if (faces.empty()) return;
   const ChoiceLook& look = LookOfChoices(obj);
   const std::vector<int32_t> selections = TokensOf(obj, INITIAL_SELECTIONS);
+  const std::vector<std::string> colors = TextsOf(obj, CHOICE_COLORS);
   const int count = static_cast<int>(faces.size());
   const int columns = NumberOf(obj, COLUMNS, 0);
   const int rows =
@@ -443,8 +444,11 @@ static void DrawChoices(Sheet& sheet, const PortObject& obj) {
     width += look.before + look.after;
     for (int i = first; i < end; ++i) {
       const bool chosen = i < static_cast<int>(selections.size()) && selections[i] == T;
+      const std::string color = i < static_cast<int>(colors.size()) ? CssColor(colors[i]) : "";
+      sheet.drawing.Open(0, 0, "", color.empty() ? "" : "color:" + color);
       DrawChoice(sheet, faces[i], look,
                  {x, place.y + (i - first) * (height + look.gap / 2), width, height}, chosen);
+      sheet.drawing.Close();
     }
     x += width + look.gap;
   }

@@ -303,6 +303,11 @@ TEST(SketchTest, DrawsTheChoicesOfASetting) {
                     HasSubstr("\"M90 30l4 5"), Not(HasSubstr("\"M52 30l4 5"))));
 }
 
+TEST(SketchTest, DrawsChoicesInTheirColours) {
+  EXPECT_THAT(DrawOne(SETTING, ChoicesAt(EXCLUSIVE, {Texts(CHOICE_COLORS, {"", "red"})})),
+              HasSubstr("<g style=\"color:red\">\n" + RectStart(73, 20, 23, 22)));
+}
+
 TEST(SketchTest, PutsChoicesIntoColumnsOrRows) {
   EXPECT_THAT(DrawOne(SETTING, ChoicesAt(EXCLUSIVE, {Number(COLUMNS, 1)})),
               HasRect(50, 42, 23, 22, kChosen));
