@@ -15,7 +15,9 @@ ScratchFolder::ScratchFolder() {
   if (mkdtemp(name.data())) path_ = name;
 }
 
-ScratchFolder::~ScratchFolder() {
+ScratchFolder::~ScratchFolder() { Remove(); }
+
+void ScratchFolder::Remove() {
   std::error_code error;
   if (!path_.empty()) fs::remove_all(path_, error);
 }

@@ -14,6 +14,9 @@ class ScratchFolder {
   ScratchFolder(const ScratchFolder&) = delete;
   ScratchFolder& operator=(const ScratchFolder&) = delete;
 
+  // Removes it now.
+  void Remove();
+
   // Empty when it could not be made; errno tells why.
   const std::filesystem::path& Path() const { return path_; }
 

@@ -144,6 +144,8 @@ class Supervisor {
         char byte = 0;
         if (read(worker_.ready, &byte, 1) <= 0) return Event::kEnded;
         worker_.loaded = true;
+        // All has been read that was to be; the sooner it is gone, the less can stay behind.
+        if (!watch_ && !own_server_) scratch_.Remove();
       }
       if (descriptors[1].revents != 0 && watch_->TakeNews()) return Event::kChanged;
     }

@@ -100,8 +100,13 @@ class Viewer:
         return self
 
     def __exit__(self, *_):
-        self.process.kill()
-        self.process.communicate()
+        # Not killed, so that it can clean up.
+        self.process.terminate()
+        try:
+            self.process.communicate(timeout=SECONDS)
+        except subprocess.TimeoutExpired:
+            self.process.kill()
+            self.process.communicate()
 
     def wait_for_window(self, title, shown=True):
         """The X window of this title, once it is (or no longer is) on the screen."""
