@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+// The functions of the user's: what each is called in C, and who calls it.
+#ifndef PANDREL_PORT_FUNCTIONS_H
+#define PANDREL_PORT_FUNCTIONS_H
+
+#include <filesystem>
+#include <string>
+
+#include "port/session.h"
+
+namespace port {
+
+// Whether the connection calls a function of the user's or holds code for one.
+bool CallsFunction(const Connection& connection);
+
+// Lists the functions that connections call, and the procedures of the module that they are, in the
+// order of first use. Names are the file's where C allows them; a name that is no word, a keyword
+// or known to the libraries otherwise gets "_callback" at its end.
+void NameFunctions(Session& session);
+
+// A word of C made from the text: what cannot stand in one becomes "_".
+std::string CWord(const std::string& text);
+
+// Whether a function of that name would clash with the language, its library, the toolkit or the
+// other generated files.
+bool IsTaken(const std::string& word);
+
+// The base name of the input as a word, for the program and its class.
+std::string ProgramName(const std::filesystem::path& input);
+
+}  // namespace port
+
+#endif

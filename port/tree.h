@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+// Every program of a tree of folders.
+#ifndef PANDREL_PORT_TREE_H
+#define PANDREL_PORT_TREE_H
+
+#include <filesystem>
+#include <vector>
+
+#include "port/port.h"
+
+namespace port {
+
+// The GIL files to port: every project, and every interface that no project of its folder names, in
+// the order of their paths.
+std::vector<std::filesystem::path> FindPrograms(const std::filesystem::path& tree);
+
+// Ports each of them into a folder below job.output that lies as the file does in the tree
+// job.input, `jobs` at a time, and writes job.output/index.html. Goes on after a failure. Tells its
+// progress on standard error. Returns the exit status of the program.
+int PortTree(const Job& job, int jobs);
+
+}  // namespace port
+
+#endif

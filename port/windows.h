@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+// The windows and dialogs of the program.
+#ifndef PANDREL_PORT_WINDOWS_H
+#define PANDREL_PORT_WINDOWS_H
+
+#include "port/session.h"
+
+namespace port {
+
+// Fills the model's windows from the shells of the tree; a module may have none, in spite of which
+// the program needs them.
+void FindWindows(Session& session);
+
+}  // namespace port
+
+#endif
