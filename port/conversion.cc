@@ -9,11 +9,10 @@
 #include <fstream>
 
 #include "convert/actions.h"
-#include "convert/item_finder.h"
+#include "convert/objects.h"
 #include "driver/command_line.h"
 #include "driver/driver.h"
 #include "driver/session.h"
-#include "driver/standard_streams.h"
 #include "flags/flags.h"
 #include "gil/object.h"
 #include "gil/parser.h"
@@ -22,6 +21,7 @@
 #include "gil/value.h"
 #include "osi/fatal.h"
 #include "passes/clean_up.h"
+#include "passes/procedure_names.h"
 #include "port/connect.h"
 #include "port/functions.h"
 #include "port/mend.h"
@@ -34,7 +34,6 @@
 #include "uil/writer.h"
 #include "widget/callbacks.h"
 #include "widget/links.h"
-#include "widget/name_index.h"
 #include "widget/tree.h"
 #include "widget/walk.h"
 
@@ -100,6 +99,21 @@ class Surroundings {
   int err_ = -1;
 };
 
+// ConvertObjHierToWidgHier, but for the note of what a window cuts off: a group that came to stand
+// behind the window before.
+Widg* ConvertObjects(Session& session, Obj* objects, Widg** list_link) {
+  Widg* last = nullptr;
+  for (Obj* obj = objects; obj; obj = obj->next) {
+    Widg* widg = ProcessObj(obj);
+    if (obj->type == GROUP) continue;
+    Widg** link = last && *list_link ? &last->next : list_link;
+    if (*link) session.cut_off.push_back(*link);
+    LinkTopLevel(link, widg);
+    last = widg;
+  }
+  return *list_link;
+}
+
 // The steps of the driver (driver/driver.h), taken one by one, since between reading and converting
 // the objects are copied: the conversion consumes them. tests/port compares the modules.
 void ConvertFile(Session& session, int file, Widg** list_link) {
@@ -115,8 +129,7 @@ void ConvertFile(Session& session, int file, Widg** list_link) {
   }
   gilFile = resolveChildren(gilFile);
   Obj* objects = PutMenusFirst(gilFile);
-  NameIndexNewFile();
-  *list_link = ConvertObjHierToWidgHier(objects, list_link);
+  *list_link = ConvertObjects(session, objects, list_link);
   RelinkTopLevel(list_link, CleanUpTopLevelHierarchy(list_link));
   LinkWidgets(session, first_object);
 }
@@ -168,11 +181,9 @@ void ConvertMembers(Session& session) {
 void ConvertAction(Session& session, Widg* widg, const Action* action, int connection) {
   Callback* const before = widg->callbacks;
   widg->callbacks = nullptr;
-  ResetCallbacks();
   ProcessAction(widg, action);
   const Callback* made = widg->callbacks;
   widg->callbacks = before;
-  ResetCallbacks();
   if (!made) return;
   AddCallback(widg, made->callback_name, made->procedure, made->argument);
   for (const Callback* at = widg->callbacks; at; at = at->next) {
@@ -193,11 +204,10 @@ void ConvertActions(Session& session) {
     if (session.actions[i]) connections.emplace(session.actions[i], static_cast<int>(i));
   }
   const auto convert = [&](Widg* widg) {
-    ItemFinder items(widg);
     for (const Action* action = widg->actions; action; action = action->next) {
       const auto found = connections.find(action);
       if (found == connections.end()) continue;  // the mark of an object without actions
-      ConvertAction(session, LocateFromWidg(widg, &items, action), action, found->second);
+      ConvertAction(session, LocateFromWidg(widg, action), action, found->second);
     }
   };
   for (Widg* widg = top_widget; widg; widg = widg->next) {
@@ -213,6 +223,7 @@ std::string WriteModule() {
   std::size_t size = 0;
   std::FILE* stream = open_memstream(&text, &size);
   if (!stream) Error("Out of memory");
+  FixProcedureNames();
   GenUILForWidgHierarchy(top_widget, stream);
   std::fclose(stream);
   std::string module(text, size);
@@ -235,7 +246,6 @@ void SetFlags(std::vector<std::string> options) {
 
 void Run(const Input& input, Session& session, const std::string& file_name) {
   if (!std::freopen(file_name.c_str(), "r", stdin)) Error("Cannot read the file");
-  UseOwnBuffer(stdin);
   ConvertFile(session, AddFile(session, input.file.filename().string()), &top_widget);
   ConvertMembers(session);
   ResolvePaths(session.model);

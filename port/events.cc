@@ -12,7 +12,7 @@ namespace {
 
 struct CallbackRow {
   std::string_view event;
-  FixedText class_name;
+  const char* class_name;
   const char* callback;
 };
 

@@ -51,6 +51,7 @@ std::vector<Widg*> CollectNew(Session& session) {
     session.parent_of[widg] = parent;
     if (session.object_of.emplace(widg, -1).second) {
       session.widgets.push_back(widg);
+      session.made[widg] = NameLookup(InstanceNameTbl(), widg->name);
       fresh.push_back(widg);
     }
     if (IsInModule(widg)) push_list(widg->child, widg);
@@ -154,7 +155,7 @@ std::string ReasonForLoss(const Model& model, const PortObject& object) {
 
 std::string LabelOf(const Widg* widg) {
   for (const char* resource : {"XmNlabelString", "XmNoriginalPixmapName"}) {
-    const char* value = GetResourceValue(widg, FixedText::Of(resource));
+    const char* value = GetResourceValue(widg, resource);
     if (*value) return GilText(value);
   }
   return "";
@@ -172,7 +173,7 @@ void ListWritten(Session& session) {
   const auto enter = [&](Widg* widg) {
     if (seen[widg]) return;
     seen[widg] = true;
-    if (!widg->class_name.empty()) open.push_back({widg, widg->child});
+    if (*widg->class_name) open.push_back({widg, widg->child});
   };
   for (Widg* top = top_widget; top; top = top->next) {
     enter(top);
@@ -189,7 +190,7 @@ void ListWritten(Session& session) {
   }
 }
 
-bool IsInModule(const Widg* widg) { return !widg->class_name.empty(); }
+bool IsInModule(const Widg* widg) { return *widg->class_name; }
 
 std::string NameOf(const Session& session, const Widg* widg) {
   const auto found = session.names.find(widg);
@@ -209,7 +210,7 @@ std::vector<Widg*> OwnWidgets(const Session& session, int object) {
     }
   }
   std::sort(own.begin(), own.end(),
-            [](const Widg* a, const Widg* b) { return a->place.made < b->place.made; });
+            [&](const Widg* a, const Widg* b) { return session.made.at(a) < session.made.at(b); });
   return own;
 }
 
@@ -229,11 +230,10 @@ void SettleObjects(Session& session) {
     };
     std::sort(widgets.begin(), widgets.end(), [&](const Widg* a, const Widg* b) {
       if (stands_for_it(a) != stands_for_it(b)) return stands_for_it(a);
-      return a->place.made < b->place.made;
+      return session.made.at(a) < session.made.at(b);
     });
     for (const Widg* widg : widgets) {
-      object.widgets.push_back(
-          {NameOf(session, widg), std::string(widg->class_name.view()), LabelOf(widg)});
+      object.widgets.push_back({NameOf(session, widg), widg->class_name, LabelOf(widg)});
     }
     if (widgets.empty()) {
       object.reason = ReasonForLoss(model, object);

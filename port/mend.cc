@@ -17,7 +17,6 @@
 #include "uilfix/module.h"
 #include "uilfix/rewrites.h"
 #include "widget/links.h"
-#include "widget/name_index.h"
 #include "widget/procedures.h"
 #include "widget/tree.h"
 
@@ -39,7 +38,7 @@ void MirrorSubMenus(Session& session, Widg* menu, const PortObject& object) {
   const bool any = std::any_of(items.begin(), items.end(), [](Widg* item) { return item->child; });
   if (!any || !labels || labels->values.size() != items.size()) return;
   const bool toggles = object.Is(MENU_TYPE, EXCLUSIVE) || object.Is(MENU_TYPE, NONEXCLUSIVE);
-  const FixedText plain = toggles ? FixedText("XmToggleButton") : FixedText("XmPushButton");
+  const char* plain = toggles ? "XmToggleButton" : "XmPushButton";
   for (std::size_t i = 0; i < items.size() / 2; ++i) {
     Widg* a = items[i];
     Widg* b = items[items.size() - 1 - i];
@@ -47,8 +46,8 @@ void MirrorSubMenus(Session& session, Widg* menu, const PortObject& object) {
     Widg* const below_b = b->child;
     SetChildren(a, below_b);
     SetChildren(b, below_a);
-    a->class_name = below_b ? FixedText("XmCascadeButton") : plain;
-    b->class_name = below_a ? FixedText("XmCascadeButton") : plain;
+    a->class_name = below_b ? "XmCascadeButton" : plain;
+    b->class_name = below_a ? "XmCascadeButton" : plain;
     session.parent_of[below_a] = b;
     session.parent_of[below_b] = a;
   }
@@ -94,8 +93,15 @@ Widg* ContainerOfMembers(const Session& session, const PortObject& group) {
 // with the other windows, the group comes to stand behind those: a widget that nobody controls.
 void BringBackGroup(Session& session, int index) {
   const PortObject& object = session.model.objects[index];
-  for (Widg* group = NewestOfName(object.name.c_str()); group; group = OlderOfName(group)) {
-    if (group->actions != session.objs[index]->actions || !group->child) continue;
+  std::vector<Widg*> candidates = session.widgets;
+  for (Widg* list : session.cut_off) {
+    for (Widg* widg = list; widg; widg = widg->next) candidates.push_back(widg);
+  }
+  for (Widg* group : candidates) {
+    if (object.name != group->gil_name || group->actions != session.objs[index]->actions ||
+        !group->child) {
+      continue;
+    }
     const auto parent = session.parent_of.find(group);
     Widg* container = ContainerOfMembers(session, object);
     const bool is_loose = parent == session.parent_of.end() || !parent->second;
@@ -213,8 +219,6 @@ void RebuildCallbacks(const Session& session, const Widg* widg,
       uilfix::Callback made = *old;
       made.reason = reason;
       made.list = callbacks.size() > 1;
-      made.call_lead = "\t\t\t";
-      made.close_lead = "\t\t\t";
       made.calls.clear();
       for (const Callback* callback : callbacks) {
         const char* argument = callback->argument ? callback->argument : "";

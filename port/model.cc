@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "gil/keywords.h"
+#include "gil/words.h"
 
 namespace port {
 

@@ -9,6 +9,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "names/name_table.h"
 #include "port/model.h"
 
 struct Action;
@@ -43,9 +44,11 @@ struct Session {
   std::set<const Callback*> left_out;  // of the module, since connections.c makes the call
   std::vector<std::string> reasons;    // beside model.connections: why one is lost, so far
   std::vector<Widg*> widgets;          // all of the tree, parents first
-  std::unordered_map<const Widg*, int> object_of;      // for each of them; -1 for none
-  std::unordered_map<const Widg*, Widg*> parent_of;    // null at the top
-  std::vector<Widg*> written;                          // beside the objects of the module
+  std::unordered_map<const Widg*, int> object_of;    // for each of them; -1 for none
+  std::unordered_map<const Widg*, Widg*> parent_of;  // null at the top
+  std::unordered_map<const Widg*, NameHandle> made;  // rises with each widget made
+  std::vector<Widg*> cut_off;  // lists that a window took the place of at the top level
+  std::vector<Widg*> written;  // beside the objects of the module
   std::unordered_map<const Widg*, std::string> names;  // in the module as mended
 };
 

@@ -4,10 +4,9 @@
 #include <algorithm>
 #include <map>
 
-#include "gil/attribute_forms.h"
-#include "gil/keywords.h"
 #include "gil/object.h"
 #include "gil/tokens.h"
+#include "gil/words.h"
 
 namespace port {
 namespace {
@@ -28,8 +27,8 @@ GilValue CopyValue(const Value& value) {
 
 // Name lists stand in the file's order, all other lists in reverse.
 bool IsReversed(int32_t attribute) {
-  const ValueForm form = AttributeForm(attribute);
-  return form == kStringList || ElementForm(form) != kNoForm;
+  const Word* word = WordOfToken(attribute);
+  return word && (word->value.shape == kStringListShape || word->value.shape == kWordListShape);
 }
 
 GilAttribute CopyAttribute(const Attr& attr) {
@@ -46,8 +45,8 @@ PortObject CopyObject(const Obj& obj, int file) {
   PortObject copy;
   copy.file = file;
   copy.type = obj.type;
-  copy.name = GilText(obj.name);
-  copy.owner = GilText(obj.owner);
+  copy.name = GilText(AttrText(obj.attrs, NAME));
+  copy.owner = GilText(AttrText(obj.attrs, OWNER));
   for (const Attr* attr = obj.attrs; attr; attr = attr->next) {
     copy.attributes.push_back(CopyAttribute(*attr));
   }

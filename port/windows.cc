@@ -19,7 +19,7 @@ bool IsShell(const Widg* widg) {
 }
 
 void ReadResource(const Resource& resource, PortWindow& window) {
-  const std::string name(resource.name.view());
+  const std::string name(resource.name);
   const std::string value = resource.value ? resource.value : "";
   if (name == "XmNtitle") {
     window.title = GilText(resource.value);
@@ -44,7 +44,7 @@ PortWindow ReadShell(const Session& session, const Widg* shell) {
   window.shell = NameOf(session, shell);
   for (const Resource* at = shell->resources; at; at = at->next) ReadResource(*at, window);
   for (const Widg* child = shell->child; child; child = child->next) {
-    if (child->class_name.empty() || IsShell(child)) continue;
+    if (!*child->class_name || IsShell(child)) continue;
     if (IsMenu(child)) {
       window.popups.push_back(NameOf(session, child));
     } else {
