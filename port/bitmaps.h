@@ -3,7 +3,7 @@
 #ifndef PANDREL_PORT_BITMAPS_H
 #define PANDREL_PORT_BITMAPS_H
 
-#include "port/session.h"
+#include "port/port_session.h"
 #include "uilfix/module.h"
 
 namespace port {

@@ -7,8 +7,8 @@
 #include <string_view>
 
 #include "gil/tokens.h"
-#include "port/events.h"
 #include "port/functions.h"
+#include "port/port_events.h"
 #include "port/targets.h"
 #include "widget/tree.h"
 

@@ -3,7 +3,7 @@
 #ifndef PANDREL_PORT_CONNECT_H
 #define PANDREL_PORT_CONNECT_H
 
-#include "port/session.h"
+#include "port/port_session.h"
 
 namespace port {
 

@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <string>
 
-#include "port/session.h"
+#include "port/port_session.h"
 
 namespace port {
 

@@ -5,7 +5,7 @@
 
 #include "port/port.h"
 #include "port/port_options.h"
-#include "port/tree.h"
+#include "port/tree_of_programs.h"
 
 namespace {
 

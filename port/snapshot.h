@@ -4,7 +4,7 @@
 #ifndef PANDREL_PORT_SNAPSHOT_H
 #define PANDREL_PORT_SNAPSHOT_H
 
-#include "port/session.h"
+#include "port/port_session.h"
 
 struct Obj;
 

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "gil/tokens.h"
-#include "port/events.h"
+#include "port/port_events.h"
 #include "widget/tree.h"
 
 namespace port {

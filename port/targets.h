@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "port/session.h"
+#include "port/port_session.h"
 
 namespace port {
 

@@ -12,10 +12,10 @@
 #include "gil_names.h"
 #include "open_look_colors.h"
 #include "process.h"
-#include "shadow.h"
 #include "stray_children.h"
 #include "uilfix/module_files.h"
 #include "uilfix/rewrites.h"
+#include "writable_folder.h"
 
 namespace view {
 namespace {

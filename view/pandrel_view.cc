@@ -11,9 +11,9 @@
 //   picture.h, listing.h, check.h   what can be had instead of a running interface
 #include <iostream>
 
-#include "session.h"
 #include "supervisor.h"
 #include "view_options.h"
+#include "view_session.h"
 
 int main(int argc, char** argv) {
   using view::Options;

@@ -19,8 +19,8 @@
 #include "private_server.h"
 #include "process.h"
 #include "scratch_folder.h"
-#include "session.h"
 #include "signals.h"
+#include "view_session.h"
 
 namespace view {
 namespace {

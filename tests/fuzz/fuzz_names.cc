@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
-#include "osi/arena.h"
 #include "names/name_table.h"
+#include "osi/arena.h"
 
 namespace {
 

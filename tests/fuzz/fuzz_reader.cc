@@ -4,11 +4,11 @@
 #include <cstdint>
 
 #include "confinement.h"
+#include "fuzz_session.h"
 #include "gil/dump.h"
 #include "gil/object.h"
 #include "gil/parser.h"
 #include "gil_mutator.h"
-#include "session.h"
 
 extern "C" {
 

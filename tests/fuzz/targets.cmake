@@ -24,7 +24,7 @@ function(add_fuzz_executable name target main)
     target_link_libraries(${name} PRIVATE pandrel_uilfix)
   endif()
   if(target MATCHES "^(reader|convert)$")
-    target_sources(${name} PRIVATE ${fuzz_dir}/confinement.cc ${fuzz_dir}/session.cc
+    target_sources(${name} PRIVATE ${fuzz_dir}/confinement.cc ${fuzz_dir}/fuzz_session.cc
       ${fuzz_dir}/shell_grammar.cc)
     # In front of the core, whose tables the mutator uses.
     target_link_libraries(${name} PRIVATE gil_mutator pandrel_core)

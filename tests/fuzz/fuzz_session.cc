@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "session.h"
+#include "fuzz_session.h"
 
 #include <cstdio>
 #include <string_view>

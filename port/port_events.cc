@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "port/events.h"
+#include "port/port_events.h"
 
 #include <array>
 #include <string_view>

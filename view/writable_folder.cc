@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "shadow.h"
+#include "writable_folder.h"
 
 namespace view {
 

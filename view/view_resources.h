@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Resources that the program adds to those of the user's own.
-#ifndef PANDREL_VIEW_RESOURCES_H
-#define PANDREL_VIEW_RESOURCES_H
+#ifndef PANDREL_VIEW_VIEW_RESOURCES_H
+#define PANDREL_VIEW_VIEW_RESOURCES_H
 
 #include <filesystem>
 #include <string>

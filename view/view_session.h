@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // One interface on one X server, from the compiled module to the last window's end. Runs in a
 // process of its own: a damaged module may crash the resource manager.
-#ifndef PANDREL_VIEW_SESSION_H
-#define PANDREL_VIEW_SESSION_H
+#ifndef PANDREL_VIEW_VIEW_SESSION_H
+#define PANDREL_VIEW_VIEW_SESSION_H
 
 #include <filesystem>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "session.h"
+#include "view_session.h"
 
 #include <Mrm/MrmAppl.h>
 #include <Xm/CascadeB.h>
@@ -22,10 +22,10 @@
 #include "picture.h"
 #include "places.h"
 #include "popup_menus.h"
-#include "resources.h"
 #include "screenshots.h"
 #include "stubs.h"
 #include "uid_names.h"
+#include "view_resources.h"
 #include "view_windows.h"
 #include "widget_tree.h"
 #include "zo.h"

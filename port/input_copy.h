@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // A stand-in for the input's folder. The converter writes the bitmaps of glyphs into its working
 // folder, and nothing of the user's is to be written to.
-#ifndef PANDREL_PORT_SHADOW_H
-#define PANDREL_PORT_SHADOW_H
+#ifndef PANDREL_PORT_INPUT_COPY_H
+#define PANDREL_PORT_INPUT_COPY_H
 
 #include <filesystem>
 #include <string>

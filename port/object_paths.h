@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What the paths of a connection mean.
-#ifndef PANDREL_PORT_PATHS_H
-#define PANDREL_PORT_PATHS_H
+#ifndef PANDREL_PORT_OBJECT_PATHS_H
+#define PANDREL_PORT_OBJECT_PATHS_H
 
 #include "port/model.h"
 

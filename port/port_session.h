@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // One conversion while it is at hand: the converter's records beside the model that is made of
 // them. It ends, and the records with it, when the model is complete.
-#ifndef PANDREL_PORT_SESSION_H
-#define PANDREL_PORT_SESSION_H
+#ifndef PANDREL_PORT_PORT_SESSION_H
+#define PANDREL_PORT_PORT_SESSION_H
 
 #include <set>
 #include <string>

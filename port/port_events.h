@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 // How an event of GIL comes about in Motif: on which widgets of the source, by which callback or
 // event, under which condition.
-#ifndef PANDREL_PORT_EVENTS_H
-#define PANDREL_PORT_EVENTS_H
+#ifndef PANDREL_PORT_PORT_EVENTS_H
+#define PANDREL_PORT_PORT_EVENTS_H
 
 #include <vector>
 
-#include "port/session.h"
+#include "port/port_session.h"
 
 namespace port {
 

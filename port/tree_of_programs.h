@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Every program of a tree of folders.
-#ifndef PANDREL_PORT_TREE_H
-#define PANDREL_PORT_TREE_H
+#ifndef PANDREL_PORT_TREE_OF_PROGRAMS_H
+#define PANDREL_PORT_TREE_OF_PROGRAMS_H
 
 #include <filesystem>
 #include <vector>

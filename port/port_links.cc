@@ -7,7 +7,7 @@
 #include "flags/flags.h"
 #include "gil/object.h"
 #include "gil/tokens.h"
-#include "port/session.h"
+#include "port/port_session.h"
 #include "widget/tree.h"
 
 namespace port {

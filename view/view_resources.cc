@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "resources.h"
+#include "view_resources.h"
 
 #include <X11/Xresource.h>
 

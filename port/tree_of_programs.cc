@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "port/tree.h"
+#include "port/tree_of_programs.h"
 
 #include <sys/wait.h>
 #include <unistd.h>

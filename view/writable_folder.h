@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Folders that look like the user's and can be written to: the converter puts the bitmaps of glyphs
 // beside them, and looking at an interface should leave no files behind.
-#ifndef PANDREL_VIEW_SHADOW_H
-#define PANDREL_VIEW_SHADOW_H
+#ifndef PANDREL_VIEW_WRITABLE_FOLDER_H
+#define PANDREL_VIEW_WRITABLE_FOLDER_H
 
 #include <filesystem>
 

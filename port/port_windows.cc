@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "port/windows.h"
+#include "port/port_windows.h"
 
 #include <string_view>
 

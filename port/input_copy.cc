@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "port/shadow.h"
+#include "port/input_copy.h"
 
 #include <unistd.h>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The windows and dialogs of the program.
-#ifndef PANDREL_PORT_WINDOWS_H
-#define PANDREL_PORT_WINDOWS_H
+#ifndef PANDREL_PORT_PORT_WINDOWS_H
+#define PANDREL_PORT_PORT_WINDOWS_H
 
-#include "port/session.h"
+#include "port/port_session.h"
 
 namespace port {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "port/paths.h"
+#include "port/object_paths.h"
 
 #include <algorithm>
 #include <map>
