@@ -2,6 +2,9 @@
 #include "gil/scanner.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -36,13 +39,26 @@ struct Input {
 
 Input input;
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-bool IsLower(char c) { return c >= 'a' && c <= 'z'; }
-bool IsLetter(char c) { return IsLower(c) || (c >= 'A' && c <= 'Z'); }
-bool IsOfKeyword(char c) { return IsLower(c) || c == '-' || c == '_'; }
-bool IsOfIdentifier(char c) { return IsLetter(c) || IsDigit(c) || c == '_' || c == '.'; }
-bool IsDash(char c) { return c == '-'; }
-bool IsOfLine(char c) { return c != '\n'; }
+enum CharClass : uint8_t {
+  kLetter = 1,
+  kDigit = 2,
+  kOfIdentifier = 4,  // what may follow the first letter of an identifier
+  kOfKeyword = 8,     // what may follow the colon of a keyword
+  kDash = 16,
+};
+
+constexpr std::array<uint8_t, 256> kClasses = [] {
+  std::array<uint8_t, 256> classes{};
+  for (int c = 'a'; c <= 'z'; ++c) classes[c] = kLetter | kOfIdentifier | kOfKeyword;
+  for (int c = 'A'; c <= 'Z'; ++c) classes[c] = kLetter | kOfIdentifier;
+  for (int c = '0'; c <= '9'; ++c) classes[c] = kDigit | kOfIdentifier;
+  classes['_'] = kOfIdentifier | kOfKeyword;
+  classes['.'] = kOfIdentifier;
+  classes['-'] = kOfKeyword | kDash;
+  return classes;
+}();
+
+bool Is(char c, CharClass wanted) { return kClasses[static_cast<unsigned char>(c)] & wanted; }
 
 std::size_t Left() { return static_cast<std::size_t>(input.end - input.cursor); }
 
@@ -81,9 +97,8 @@ void Accept(const char* token_end) {
 }
 
 // Behind the run of characters of that class that starts at `from`.
-template <typename Class>
-const char* Skip(const char* from, Class IsOf) {
-  while (from < input.end && IsOf(*from)) ++from;
+const char* Skip(const char* from, CharClass wanted) {
+  while (Is(*from, wanted)) ++from;
   return from;
 }
 
@@ -118,7 +133,7 @@ int32_t ScanParenthesis(int32_t token) {
 
 // The version header, or a comment; both end with the line.
 int32_t ScanSemicolon() {
-  Accept(Skip(input.cursor, IsOfLine));
+  Accept(std::find(input.cursor, input.end, '\n'));
   const std::string_view line(yytext, yyleng);
   if (line.starts_with(";GIL-2")) {
     SetVersion(2);  // ends the run
@@ -142,7 +157,7 @@ int32_t RepeatValue() {
 
 int32_t ScanKeyword() {
   const char* text = input.cursor + 1;
-  const char* text_end = Skip(text, IsOfKeyword);
+  const char* text_end = Skip(text, kOfKeyword);
   if (text_end == text) return ScanIllegalCharacter();
   Accept(text_end);
   const Word* word = FindKeyword(text, static_cast<std::size_t>(text_end - text));
@@ -154,7 +169,7 @@ int32_t ScanKeyword() {
 }
 
 int32_t ScanIdentifier() {
-  Accept(Skip(input.cursor, IsOfIdentifier));
+  Accept(Skip(input.cursor, kOfIdentifier));
   const std::string_view text(yytext, yyleng);
   if (text == "nil") return NIL;
   if (text == "t") return T;
@@ -163,22 +178,26 @@ int32_t ScanIdentifier() {
 }
 
 int32_t ScanInteger(const char* first_digit) {
-  Accept(Skip(first_digit, IsDigit));
+  Accept(Skip(first_digit, kDigit));
   // Converts as atoi does: a second "-" ends the number, which is then 0.
-  yylval = intValue(static_cast<int32_t>(std::strtol(yytext, nullptr, 10)));
+  int32_t number = 0;
+  if (std::from_chars(yytext, yytext + yyleng, number).ec != std::errc()) {
+    number = static_cast<int32_t>(std::strtol(yytext, nullptr, 10));
+  }
+  yylval = intValue(number);
   return INTEGER_VALUE;
 }
 
 // A number, or dashes that no digit follows: each of those is an illegal character. Their run may
 // be longer than a token, and than the buffer; only a token has a limit.
 int32_t ScanDash() {
-  const char* behind = Skip(input.cursor, IsDash);
-  if (IsDigit(*behind)) return ScanInteger(behind);
+  const char* behind = Skip(input.cursor, kDash);
+  if (Is(*behind, kDigit)) return ScanInteger(behind);
   std::size_t dashes = 0;
   for (; *input.cursor == '-'; ++dashes) {
     if (++input.cursor == input.end) Fetch();
   }
-  if (IsDigit(*input.cursor)) TokenTooLong();
+  if (Is(*input.cursor, kDigit)) TokenTooLong();
   for (; dashes > 0; --dashes) std::fputs("Illegal character: -\n", stderr);
   return 0;
 }
@@ -219,8 +238,8 @@ int32_t ScanOne() {
     case '-':
       return ScanDash();
     default:
-      if (IsLetter(first)) return ScanIdentifier();
-      return IsDigit(first) ? ScanInteger(input.cursor) : ScanIllegalCharacter();
+      if (Is(first, kLetter)) return ScanIdentifier();
+      return Is(first, kDigit) ? ScanInteger(input.cursor) : ScanIllegalCharacter();
   }
 }
 

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "osi/arena.h"
 
+#include <sys/mman.h>
+#include <unistd.h>
+
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
@@ -9,10 +12,14 @@
 
 namespace {
 
+// An ordinary file fits into the first chunk or two. Those of a large file are touched as a whole, so
+// the kernel is asked to provide their pages at once: one by one they took 13 % of the time of 4 MB.
 #ifdef PANDREL_SANITIZED
-constexpr std::size_t kChunkSize = 0;
+constexpr std::size_t kFirstChunkSize = 0;
+constexpr std::size_t kLargeChunkSize = 0;
 #else
-constexpr std::size_t kChunkSize = 64 * 1024;
+constexpr std::size_t kFirstChunkSize = 256 * 1024;
+constexpr std::size_t kLargeChunkSize = 1024 * 1024;
 #endif
 constexpr std::size_t kAlignment = alignof(void*);
 
@@ -40,11 +47,19 @@ bool CountRequest() {
   return true;
 }
 
+// Asks for the whole pages of the block. A wish: without it they come when they are touched.
+void Populate(char* block, std::size_t size) {
+  static const auto page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+  const std::size_t before = (page - reinterpret_cast<std::uintptr_t>(block) % page) % page;
+  if (size > before) madvise(block + before, (size - before) / page * page, MADV_POPULATE_WRITE);
+}
+
 // Makes sure that `size` bytes are free. What was left of the former chunk is given up.
 bool MakeRoom(std::size_t size) {
   if (!CountRequest()) return false;
   if (size <= static_cast<std::size_t>(arena.end - arena.start)) return true;
-  const std::size_t room = size > kChunkSize ? size : kChunkSize;
+  const std::size_t usual = arena.last ? kLargeChunkSize : kFirstChunkSize;
+  const std::size_t room = size > usual ? size : usual;
   if (room > SIZE_MAX - sizeof(Chunk)) return false;
   auto* chunk = static_cast<Chunk*>(std::malloc(sizeof(Chunk) + room));
   if (!chunk) return false;
@@ -52,6 +67,7 @@ bool MakeRoom(std::size_t size) {
   arena.last = chunk;
   arena.start = reinterpret_cast<char*>(chunk + 1);
   arena.end = arena.start + room;
+  if (room == kLargeChunkSize) Populate(arena.start, room);
   return true;
 }
 

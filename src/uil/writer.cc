@@ -32,7 +32,7 @@ void PutText(const char* part) {
 // A line of an object, or the first part of one. The mark is what each line of an object that
 // stands as a comment begins with.
 void PutLine(std::string_view mark, std::string_view part) {
-  Put(mark);
+  if (!mark.empty()) Put(mark);
   Put(part);
 }
 
