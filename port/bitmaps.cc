@@ -2,7 +2,9 @@
 #include "port/bitmaps.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
+#include <memory>
 
 #include "gil/tokens.h"
 #include "glyph/glyph.h"
@@ -80,7 +82,9 @@ void TakeButtonGlyphs(Session& session) {
     const std::string label = object.Text(LABEL);
     const std::vector<Widg*> own = OwnWidgets(session, static_cast<int>(i));
     if (label.empty() || own.empty()) continue;
-    const std::string path = PathIn(ProcessGlyphFilename(label.c_str()));
+    const std::unique_ptr<char, void (*)(void*)> pixmap(ProcessGlyphFilename(label.c_str()),
+                                                        std::free);
+    const std::string path = PathIn(pixmap.get());
     const std::string kept = Take(model, path);
     const auto has = [&](const PortBitmap& bitmap) { return bitmap.path == kept; };
     if (std::any_of(model.bitmaps.begin(), model.bitmaps.end(), has)) {

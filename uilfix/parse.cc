@@ -281,7 +281,7 @@ class Parser {
       argument.lead = TakeLead();
       argument.resource = TakeName();
       if (argument.resource.empty() || !cursor_.TakeWord(" = ")) return std::nullopt;
-      const auto value = TakeValue(argument.resource);
+      const auto value = TakeValue(argument.resource, argument.lead);
       if (!value) return std::nullopt;
       argument.value = *value;
       return argument;
@@ -289,9 +289,11 @@ class Parser {
   }
 
   // The value up to its ";" at a line end. Widget names stand for themselves, so a quote in one
-  // means nothing; everywhere else a string literal may hold line ends and semicolons.
-  std::optional<std::string_view> TakeValue(std::string_view resource) {
+  // means nothing; everywhere else a string literal may hold line ends and semicolons. A long value
+  // in a comment goes on in further comment lines.
+  std::optional<std::string_view> TakeValue(std::string_view resource, std::string_view lead) {
     if (IsWidgetReference(resource)) return TakeWholeName();
+    const std::string_view mark = lead.substr(0, lead.find('\t'));
     std::size_t i = Pos();
     while (i < text_.size()) {
       const char c = text_[i];
@@ -303,6 +305,9 @@ class Parser {
         const std::string_view value = cursor_.TakeTo(i);
         cursor_.TakeTo(i + 2);
         return value;
+      } else if (c == '!' && text_[i - 1] == '\n' && !mark.empty() &&
+                 text_.substr(i).starts_with(mark)) {
+        i += mark.size();
       } else if (c == '!' || c == '{' || c == '}' || c == '\'' || text_.substr(i, 2) == "/*") {
         break;  // a comment, or another form
       } else {
