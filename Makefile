@@ -7,7 +7,7 @@ EXAMPLE ?= examples/hello.G
 
 MAKEFLAGS += --no-print-directory
 
-.PHONY: help setup setup-tests setup-fuzz setup-dev build demo check install uninstall package package-tests
+.PHONY: help setup setup-tests setup-fuzz setup-dev build demo test check install uninstall package package-tests
 .PHONY: asan debug clang coverage bench fuzz stress gallery format lint clean
 
 help: ## this list
@@ -34,6 +34,9 @@ demo: setup ## convert an example and show the result
 	@scripts/step build 'building the converter (a minute or two)' \
 	  cmake --build --preset release -j $(JOBS) --target pandrel pandrel-uilfix
 	@scripts/demo build/release $(EXAMPLE)
+
+test: setup-tests build ## the fast loop: all tests that need neither the sanitizers nor an X server
+	ctest --preset fast
 
 check: setup-tests build ## all tests: as built for use, then under the sanitizers
 	ctest --preset release
