@@ -17,6 +17,7 @@
 #include "uilfix/module.h"
 #include "uilfix/rewrites.h"
 #include "widget/links.h"
+#include "widget/nesting.h"
 #include "widget/procedures.h"
 #include "widget/tree.h"
 

@@ -10,6 +10,7 @@
 #include "osi/fatal.h"
 #include "widget/climb.h"
 #include "widget/links.h"
+#include "widget/nesting.h"
 #include "widget/resources.h"
 #include "widget/search.h"
 #include "widget/tree.h"

@@ -2,7 +2,7 @@
 #include "passes/popup_parents.h"
 
 #include "widget/climb.h"
-#include "widget/links.h"
+#include "widget/nesting.h"
 #include "widget/search.h"
 #include "widget/walk.h"
 

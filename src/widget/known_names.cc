@@ -30,8 +30,8 @@ struct KnownNames {
   std::vector<Widg*> windows;  // that were learned, in their order; those that left are passed over
   // From here on the windows of the top level bring names that have not been learned.
   Widg* unlearned = nullptr;
-  uint32_t drop = 0;        // the mark of the walks of one clean-up
-  std::size_t learned = 0;  // how many widgets were gone through to learn their names,
+  uint32_t drop = 0;          // the mark of the walks of one clean-up
+  std::size_t learned = 0;    // how many widgets were gone through to learn their names,
   std::size_t forgotten = 0;  // and to forget them
   bool ended = false;
   int claims = 0;
@@ -163,12 +163,10 @@ bool KnownWidgWithChild(const char* name, Widg** found) {
   if (known.ended) return false;
   if (!known.with_child_is_known) {
     known.with_child.clear();
-    FindFirst(
-        top_widget, NewVisit(), [](const Widg*) { return true; },
-        [](Widg* widg) {
-          if (widg->child) known.with_child.emplace(Key(widg->gil_name), widg);
-          return false;
-        });
+    FindFirst(top_widget, [](Widg* widg) {
+      if (widg->child) known.with_child.emplace(Key(widg->gil_name), widg);
+      return false;
+    });
     known.with_child_is_known = true;
   }
   const auto entry = known.with_child.find(Key(name));

@@ -2,7 +2,6 @@
 #include "widget/links.h"
 
 #include "widget/known_names.h"
-#include "widget/search.h"
 #include "widget/tree.h"
 
 static bool IsInTree(const Widg* widg) { return widg->visit != 0; }
@@ -52,11 +51,6 @@ static void Leave(Widg* widg) {
   if (widg->shared || widg->top_level) EndKnownNames();
   if (IsInTree(widg)) NamesMoved(widg);
   widg->parent = nullptr;
-}
-
-Widg* LastSibling(Widg* widg) {
-  while (widg && widg->next) widg = widg->next;
-  return widg;
 }
 
 void SetChildren(Widg* parent, Widg* first) {
@@ -129,18 +123,4 @@ Widg* RemoveSibling(Widg* head, Widg* widg) {
     break;
   }
   return head;
-}
-
-void RemoveChild(Widg* parent, Widg* widg) { parent->child = RemoveSibling(parent->child, widg); }
-
-Widg* RemoveWidg(Widg* tree, Widg* widg) {
-  Widg* parent = FindParentOfWidg(tree, widg);
-  if (!parent) return RemoveSibling(tree, widg);
-  RemoveChild(parent, widg);
-  return tree;
-}
-
-void MoveWidgetInHierarchy(Widg* widg, Widg* old_parent, Widg* new_parent) {
-  RemoveChild(old_parent, widg);
-  AddChildLast(new_parent, widg);
 }

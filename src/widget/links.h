@@ -4,8 +4,7 @@
 //
 // note [shared tails]
 // A child is appended with whatever `next` chain it has. A menu that a canvas claims while the
-// top-level list still holds it brings the rest of that list along, until the clean-up cuts the
-// list:
+// top-level list still holds it brings the rest along, until the clean-up cuts the list:
 //   top:  menu1 -> menu2 -> shell        canvas: menu1 -> menu2 -> shell
 // Lists may so share their ends, but never run in a circle: an append that would close one does
 // nothing.
@@ -50,18 +49,5 @@ void RelinkTopLevel(Widg** link, Widg* first);
 // Unlinks the widget from a sibling list and clears its `next`; returns the new head. An absent
 // widget changes nothing.
 Widg* RemoveSibling(Widg* head, Widg* widg);
-
-// Unlinks a direct child; does nothing for any other widget.
-void RemoveChild(Widg* parent, Widg* widg);
-
-// Unlinks the widget from its parent, or from the top-level list `tree` when it has none; returns
-// the new tree.
-Widg* RemoveWidg(Widg* tree, Widg* widg);
-
-// RemoveChild from the one parent, AddChildLast to the other.
-void MoveWidgetInHierarchy(Widg* widg, Widg* old_parent, Widg* new_parent);
-
-// The last widget of the list that `widg` is in or begins; null for null.
-Widg* LastSibling(Widg* widg);
 
 #endif

@@ -6,7 +6,22 @@
 #include "osi/strings.h"
 #include "widget/links.h"
 #include "widget/resources.h"
+#include "widget/search.h"
 #include "widget/tree.h"
+
+void RemoveChild(Widg* parent, Widg* widg) { parent->child = RemoveSibling(parent->child, widg); }
+
+Widg* RemoveWidg(Widg* tree, Widg* widg) {
+  Widg* parent = FindParentOfWidg(tree, widg);
+  if (!parent) return RemoveSibling(tree, widg);
+  RemoveChild(parent, widg);
+  return tree;
+}
+
+void MoveWidgetInHierarchy(Widg* widg, Widg* old_parent, Widg* new_parent) {
+  RemoveChild(old_parent, widg);
+  AddChildLast(new_parent, widg);
+}
 
 Widg* PrevSibling(Widg* parent, const Widg* widg) {
   Widg* previous = parent;

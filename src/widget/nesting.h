@@ -1,9 +1,19 @@
 // SPDX-License-Identifier: MIT
-// Putting a new widget between a parent and its children.
+// Moving widgets from place to place, and putting a new one between a parent and its children.
 #ifndef PANDREL_WIDGET_NESTING_H
 #define PANDREL_WIDGET_NESTING_H
 
 struct Widg;
+
+// Unlinks a direct child; does nothing for any other widget.
+void RemoveChild(Widg* parent, Widg* widg);
+
+// Unlinks the widget from its parent, or from the top-level list `tree` when it has none; returns
+// the new tree.
+Widg* RemoveWidg(Widg* tree, Widg* widg);
+
+// RemoveChild from the one parent, AddChildLast to the other.
+void MoveWidgetInHierarchy(Widg* widg, Widg* old_parent, Widg* new_parent);
 
 // Takes the child out of the parent's list and makes it the only child of `new_parent`, which takes
 // over its position; the caller links `new_parent`. A line on standard error and no change when the

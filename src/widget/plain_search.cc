@@ -8,12 +8,6 @@ uint32_t NewVisit() {
   return ++last_visit;
 }
 
-template <typename Predicate>
-static Widg* FindFirst(Widg* tree, Predicate Matches) {
-  return FindFirst(
-      tree, NewVisit(), [](const Widg*) { return true; }, Matches);
-}
-
 Widg* FindWidgPlainly(Widg* tree, const char* name) {
   return FindFirst(tree, [name](const Widg* widg) { return OsiStrcmp(widg->gil_name, name) == 0; });
 }

@@ -33,6 +33,12 @@ Widg* FindFirst(Widg* tree, uint32_t visit, Enter MayEnter, Predicate Matches) {
   return nullptr;
 }
 
+template <typename Predicate>
+Widg* FindFirst(Widg* tree, Predicate Matches) {
+  return FindFirst(
+      tree, NewVisit(), [](const Widg*) { return true; }, Matches);
+}
+
 // The three searches of widget/search.h, for any tree and any widget.
 Widg* FindWidgPlainly(Widg* tree, const char* name);
 Widg* FindWidgWithChildPlainly(Widg* tree, const char* name);

@@ -57,6 +57,11 @@ Callback* MakeCallback(const char* callback_name, char* procedure, const char* a
   return callback;
 }
 
+Widg* LastSibling(Widg* widg) {
+  while (widg && widg->next) widg = widg->next;
+  return widg;
+}
+
 int IsChild(const Widg* parent, const Widg* widg) {
   if (!parent || !widg) return 0;
   for (const Widg* child = parent->child; child; child = child->next) {

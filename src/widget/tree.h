@@ -76,6 +76,9 @@ inline bool IsClass(const Widg* widg, const char* class_name) {
   return OsiStrcmp(widg->class_name, class_name) == 0;
 }
 
+// The last widget of the list that `widg` is in or begins; null for null.
+Widg* LastSibling(Widg* widg);
+
 // 1 when `widg` is in the parent's child list; 0 also when either is null.
 int IsChild(const Widg* parent, const Widg* widg);
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "widget/links.h"
+#include "widget/nesting.h"
 
 #include <gtest/gtest.h>
 

@@ -9,6 +9,7 @@
 #include "unit/support/session_fixture.h"
 #include "unit/support/widgets.h"
 #include "widget/links.h"
+#include "widget/nesting.h"
 #include "widget/tree.h"
 
 namespace {
