@@ -11,7 +11,7 @@ cmake_path(REPLACE_EXTENSION UIL LAST_ONLY ".log" OUTPUT_VARIABLE log)
 # Two conversions must not make the same bitmap at once.
 file(LOCK . DIRECTORY GUARD PROCESS)
 # The module gets its name only when it is whole: pandrel empties its output before it reads.
-set(part "${UIL}.part")
+set(part "${UIL}.raw")
 
 execute_process(COMMAND "${PANDREL}" ${FLAGS} "${part}"
   INPUT_FILE "${INPUT}" OUTPUT_FILE "${log}" ERROR_FILE "${log}" RESULT_VARIABLE status)

@@ -35,11 +35,11 @@ UIL_TIME_LIMIT ?= 60
 # The module gets its name only when it is whole: pandrel empties its output before it reads. When it
 # fails, what it said last is shown; what it says of icons always.
 define pandrel_convert
-cd $(<D) && $(PANDREL_LOCK) $(PANDREL) $(PANDREL_FLAGS) $(abspath $@).part < $(<F) > $(abspath $(@:.uil=.log)) 2>&1 || \
-  { tail -n 5 $(abspath $(@:.uil=.log)) >&2; rm -f $(abspath $@).part; exit 1; }
+cd $(<D) && $(PANDREL_LOCK) $(PANDREL) $(PANDREL_FLAGS) $(abspath $@).raw < $(<F) > $(abspath $(@:.uil=.log)) 2>&1 || \
+  { tail -n 5 $(abspath $(@:.uil=.log)) >&2; rm -f $(abspath $@).raw; exit 1; }
 @grep '^Cannot access glyph filename' $(@:.uil=.log) >&2 || :
-$(if $(PANDREL_UILFIX),$(PANDREL_UILFIX) $(PANDREL_UILFIX_FLAGS) -o $@.mended $@.part 2>> $(@:.uil=.log) && mv $@.mended $@.part)
-@mv $@.part $@
+$(if $(PANDREL_UILFIX),$(PANDREL_UILFIX) $(PANDREL_UILFIX_FLAGS) -o $@.mended $@.raw 2>> $(@:.uil=.log) && mv $@.mended $@.raw)
+@mv $@.raw $@
 endef
 
 %.uil: %.G

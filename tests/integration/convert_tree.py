@@ -50,7 +50,7 @@ def test_examples(tree, folder, name, runner):
     expect(f"{name}: the log has the notes of both programs",
            "Glyph Filename encountered" in log and "pandrel-uilfix: line" in log, log)
     expect(f"{name}: the module is mended", "unmanaged XmPopupMenu" in (out / "weather.uil").read_text())
-    expect(f"{name}: nothing but results is left", not list(out.rglob("*.part")) + list(out.rglob("*.uil.log")))
+    expect(f"{name}: nothing but results is left", not list(out.rglob("*.raw")) + list(out.rglob("*.uil.log")))
 
 
 def make_bad_tree(bad):
