@@ -489,7 +489,7 @@ struct Look {
 };
 
 // Groups and stacks only arrange others: the sketch outlines groups when their members have places.
-static const std::array<Look, 17> kLooks = {{
+static const auto kLooks = std::to_array<Look>({
     {BASE_WINDOW, false, DrawNothing},
     {POPUP_WINDOW, false, DrawNothing},
     {MENU, false, DrawNothing},
@@ -507,7 +507,7 @@ static const std::array<Look, 17> kLooks = {{
     {SCROLLING_LIST, false, DrawList},
     {SETTING, false, DrawSetting},
     {DROP_TARGET, false, DrawDropTarget},
-}};
+});
 
 static const Look* LookOf(const PortObject& obj) {
   const auto* found = std::find_if(kLooks.begin(), kLooks.end(),
