@@ -6,6 +6,13 @@
 
 #include "gil/object.h"
 
+// The value of the object's first attribute of that name, which leaves the object; null when there
+// is none, and for an empty list.
+Value* TakeValue(Obj* obj, int32_t name);
+
+// The same, but the object keeps the attribute.
+Value* PeekValue(Obj* obj, int32_t name);
+
 // The value's text, shared and writable; never null.
 char* ValueText(const Value* value);
 
