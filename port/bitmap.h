@@ -20,8 +20,8 @@ struct Bitmap {
 // no plain file, or is neither, and for one of more than 1024 pixels a side.
 std::optional<Bitmap> ReadBitmap(const std::filesystem::path& file);
 
-// Looks for the glyph that a GIL file names in the folders, in their order: in each as the X bitmap
-// that a conversion leaves there, then as the file itself. An absolute name is looked at first.
+// Looks for the glyph that a GIL file names: an absolute name first, then in the folders in their
+// order, in each one the X bitmap of a conversion before the file itself.
 std::optional<Bitmap> FindBitmap(const std::string& glyph,
                                  const std::vector<std::filesystem::path>& folders);
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Bitmaps that the module names: taken along beside it.
+// The bitmaps that the module names, copied beside it.
 #ifndef PANDREL_PORT_BITMAPS_H
 #define PANDREL_PORT_BITMAPS_H
 
@@ -12,7 +12,7 @@ namespace port {
 // conversion. A name that leads out of the program's folder is replaced by one in "bitmaps".
 void TakeBitmaps(Session& session, uilfix::Module& module);
 
-// The same for buttons that show a glyph, which the conversion leaves with the file's name as text.
+// The same for buttons that show a glyph: the conversion gives them the file's name as their text.
 void TakeButtonGlyphs(Session& session);
 
 }  // namespace port

@@ -99,8 +99,8 @@ std::size_t PieceEnd(std::string_view text) {
   return text.npos;
 }
 
-// Whether the text could end the "#if 0" that it stands in, or hide its end: a line of the
-// preprocessor's, a comment or literal that is not closed, lines joined.
+// Whether the text could end the "#if 0" around it, or hide its end: by a line of the preprocessor,
+// by a comment or literal that is not closed, or by joined lines.
 bool CouldBreakOut(std::string_view code) {
   if (code.ends_with('\\')) return true;
   for (std::string_view risk : {"#", "%:", "??", "\\\n"}) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The C code of ExecuteCode actions: where it can stand in a file that must compile.
+// The C code of ExecuteCode actions: how it can be part of a file that must compile.
 #ifndef PANDREL_PORT_CODE_H
 #define PANDREL_PORT_CODE_H
 
@@ -10,9 +10,9 @@
 namespace port {
 
 enum class CodePlace : uint8_t {
-  kLive,     // as it is: nothing but calls that the C library has
+  kLive,     // as it is: it calls only functions of the C library
   kDead,     // between #if 0 and #endif: it needs what the program may not have
-  kComment,  // line by line in a comment: it could end a block that it stands in
+  kComment,  // line by line in a comment: it could end the block around it
 };
 
 CodePlace PlaceOfCode(const std::string& code);

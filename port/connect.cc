@@ -29,7 +29,8 @@ void Plan(Session& session, int connection) {
 
 using Event = std::pair<const Widg*, std::string>;
 
-// The module calls before connections.c does. What it would call too early moves over.
+// The calls of the module run before those of connections.c. Calls that would run too early move to
+// connections.c.
 void KeepOrder(Session& session) {
   const auto is_before = [&](int a, int b) {
     return session.model.connections[a].IsBefore(session.model.connections[b]);

@@ -47,8 +47,8 @@ struct Ended {
   int status;
 };
 
-// What the converter writes on its two streams goes to a file while this lives, and its working
-// folder is `folder`.
+// While it lives, the converter's output on both streams goes to a file, and its working folder is
+// `folder`.
 class Surroundings {
  public:
   Surroundings(const fs::path& folder, const fs::path& messages)
@@ -176,8 +176,8 @@ void ConvertMembers(Session& session) {
   }
 }
 
-// Turns one action into a callback and notes which. The widget's own list is set aside meanwhile: a
-// callback that is there already is not added again, and would leave no trace.
+// Turns one action into a callback and notes which. Hides the widget's own list meanwhile: a
+// callback that it has already would not be added again, and leave no trace.
 void ConvertAction(Session& session, Widg* widg, const Action* action, int connection) {
   Callback* const before = widg->callbacks;
   widg->callbacks = nullptr;
@@ -237,7 +237,7 @@ void SetFlags(std::vector<std::string> options) {
   for (std::string& option : options) arguments.push_back(option.data());
   static std::string icon_folder;
   ParseCommandLine(static_cast<int>(arguments.size()), arguments.data());
-  // The option's own text goes with this function.
+  // The text of the option ends with this function.
   if (icon_dir_name) {
     icon_folder = icon_dir_name;
     icon_dir_name = icon_folder.c_str();

@@ -17,9 +17,9 @@ struct Input {
   std::filesystem::path scratch;     // an empty folder, for files that the conversion makes
 };
 
-// Converts one interface or project in this process. The folder of the input is only read: the
-// conversion works in scratch/files, where its files can be read and the bitmaps of glyphs appear.
-// Standard input is at its end afterwards; working folder and output streams are as before.
+// Converts one interface or project in this process. It only reads the input's folder: it works in
+// scratch/files, which has that folder's files and gets the bitmaps of glyphs. Afterwards standard
+// input is at its end; working folder and output streams are as before.
 Model ConvertInterface(const Input& input);
 
 // The interface files that a project names; none for anything else. Standard input is at its end

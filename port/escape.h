@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Texts of GIL files in the languages that are generated. Whatever the bytes are, the result stays
-// inside the string, the comment or the value that it is put into.
+// Texts of GIL files in the generated languages. Whatever its bytes, a result cannot end the
+// string, the comment or the value around it.
 #ifndef PANDREL_PORT_ESCAPE_H
 #define PANDREL_PORT_ESCAPE_H
 

@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 
 constexpr char kHead[] = "pandrel-port 1";
 
-// FNV-1a: tells whether a file is as it was written, not who wrote it.
+// FNV-1a: enough to notice a change by the user, no protection against forgery.
 std::string HashOf(const std::string& bytes) {
   uint64_t hash = 14695981039346656037U;
   for (char c : bytes) hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211U;
@@ -138,7 +138,8 @@ std::vector<std::string> Folder::Finish() {
   if (!error_.empty()) return {};
   std::error_code error;
   if (!fs::exists(target_, error)) {
-    // What mkdtemp() made is closed to others; the program's folder is as any new folder.
+    // mkdtemp() makes folders that others cannot read; give this one the permissions of any new
+    // folder.
     const mode_t mask = umask(0);
     umask(mask);
     chmod((beside_ / "files").c_str(), 0777 & ~mask);

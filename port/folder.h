@@ -11,7 +11,7 @@
 
 namespace port {
 
-// What a run remembers of the one before: it lies in the folder, in the file kMarkFile.
+// What a run knows of the one before, from the file kMarkFile in the folder.
 struct Mark {
   bool found = false;
   std::map<std::string, std::string> hashes;  // of each file as it was written, by its path
@@ -23,13 +23,14 @@ inline constexpr char kMarkFile[] = ".pandrel-port";
 // Reads the mark of a folder; nothing found when there is none.
 Mark ReadMark(const std::filesystem::path& folder);
 
-// Why nothing may be written to the folder: it holds files and no mark. Empty when all is well.
+// Why nothing may be written to the folder: it holds files and no mark. Empty when writing is
+// allowed.
 std::string WhyNotOurs(const std::filesystem::path& folder);
 
 class Folder {
  public:
-  // Begins a run that fills `target`. Files are gathered in a new folder beside it, which goes away
-  // with this if Finish() is not reached.
+  // Begins a run that fills `target`. Gathers files in a new folder beside it, which the destructor
+  // removes if Finish() was not called.
   explicit Folder(const std::filesystem::path& target);
   ~Folder();
   Folder(const Folder&) = delete;
@@ -46,7 +47,7 @@ class Folder {
   // The text of a file of the target as it is now; empty when there is none.
   std::string Existing(const std::string& path) const;
 
-  // A file that is made anew by each run: when the user changed it, this one is put beside it.
+  // A file that each run makes again. If the user changed it, the new one goes beside it.
   void Add(const std::string& path, const std::string& bytes);
 
   // A file that belongs to the user and that the run has extended.
@@ -55,8 +56,8 @@ class Folder {
   // Functions that callbacks.c has from now on.
   void SetFunctions(std::set<std::string> functions) { functions_ = std::move(functions); }
 
-  // Moves all files to the target. Returns what the user should know, line by line: files that were
-  // kept. On failure Error() tells why, and the target is as it was but for files moved already.
+  // Moves all files to the target. Returns lines for the user: the files that were kept. On failure
+  // Error() says why, and the target is as it was except for files moved already.
   std::vector<std::string> Finish();
 
  private:

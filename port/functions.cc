@@ -102,8 +102,8 @@ constexpr std::string_view kKeywords[] = {"alignas",
                                           "xor",
                                           "xor_eq"};
 
-// What the generated files define where your functions are declared. tests/port tries every word of
-// the templates.
+// The names that the generated files define where the user's functions are declared. tests/port
+// tries every word of the templates.
 constexpr std::string_view kOurs[] = {
     "UseSubstituteLetters",
     "ALWAYS",

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The functions of the user's: what each is called in C, and who calls it.
+// The user's functions: the name of each in C, and who calls it.
 #ifndef PANDREL_PORT_FUNCTIONS_H
 #define PANDREL_PORT_FUNCTIONS_H
 
@@ -10,7 +10,7 @@
 
 namespace port {
 
-// Whether the connection calls a function of the user's or holds code for one.
+// Whether the connection calls a function of the user or holds code for one.
 bool CallsFunction(const Connection& connection);
 
 // Lists the functions that connections call, and the procedures of the module that they are, in the
@@ -18,7 +18,7 @@ bool CallsFunction(const Connection& connection);
 // or known to the libraries otherwise gets "_callback" at its end.
 void NameFunctions(Session& session);
 
-// A word of C made from the text: what cannot stand in one becomes "_".
+// A word of C made from the text: characters that a word cannot have become "_".
 std::string CWord(const std::string& text);
 
 // Whether a function of that name would clash with the language, its library, the toolkit or the

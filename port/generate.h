@@ -31,7 +31,7 @@ std::string CallbacksFile(const Model& model, const std::string& existing,
 // The class of the program: its name with a capital letter.
 std::string ClassName(const Model& model);
 
-// The interface's file, as a comment may show it.
+// The interface's file, fit for a comment.
 std::string Title(const Model& model);
 
 // Where the connection comes from, for a reader: fileMenu / "Quit" (main.G), Notify.

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A stand-in for the input's folder. The converter writes the bitmaps of glyphs into its working
-// folder, and nothing of the user's is to be written to.
+// A copy of the input's folder to work in: the converter writes the bitmaps of glyphs into its
+// working folder, and the user's folders must not change.
 #ifndef PANDREL_PORT_INPUT_COPY_H
 #define PANDREL_PORT_INPUT_COPY_H
 

@@ -26,7 +26,7 @@ struct LayoutFault {
 // a backslash. Fields that a line lacks are empty. A line without a tab is none.
 std::vector<LayoutFault> ParseLayoutFaults(std::string_view lines);
 
-// Whether it is one of the layout, not of icons and colours.
+// Whether it is about the layout, not about icons and colours.
 bool IsOfLayout(const LayoutFault& fault);
 
 }  // namespace port

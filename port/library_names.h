@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Names that a function of the user's must not have.
+// Names that a function of the user must not have.
 #ifndef PANDREL_PORT_LIBRARY_NAMES_H
 #define PANDREL_PORT_LIBRARY_NAMES_H
 

@@ -30,8 +30,8 @@ char* Keep(const std::string& text) { return ArenaText(text.c_str(), text.size()
 
 // ---- Sub-menus ----
 
-// A menu's names of sub-menus stand in the file's order and its other lists in reverse, and the
-// conversion walks them in step: the first item got the last one's menu.
+// A menu's names of sub-menus are in the file's order and its other lists in reverse, and the
+// conversion walks them in step: the first item gets the menu of the last.
 void MirrorSubMenus(Session& session, Widg* menu, const PortObject& object) {
   std::vector<Widg*> items;
   for (Widg* item = menu->child; item; item = item->next) items.push_back(item);
@@ -90,8 +90,8 @@ Widg* ContainerOfMembers(const Session& session, const PortObject& group) {
   return nullptr;
 }
 
-// A group is appended to its members' container. When that holds a popup menu, whose list goes on
-// with the other windows, the group comes to stand behind those: a widget that nobody controls.
+// The conversion appends a group to its members' container. If that holds a popup menu, whose list
+// continues with the other windows, the group ends up behind those: a widget that nobody controls.
 void BringBackGroup(Session& session, int index) {
   const PortObject& object = session.model.objects[index];
   std::vector<Widg*> candidates = session.widgets;
@@ -147,7 +147,7 @@ bool IsWord(std::string_view name) {
   });
 }
 
-// A name may stand in quotes, which no word of a module can. Resources share the name's text.
+// The file may have a name in quotes; a module cannot. Resources share the name's text.
 void CleanWidgetNames(Session& session) {
   std::map<const char*, const char*> renamed;
   for (Widg* widg : session.widgets) {
@@ -187,8 +187,7 @@ void CleanProcedures(Session& session) {
 
 // ---- The module's callbacks ----
 
-// One entry for each event, its calls in the file's order; calls that nobody's action made come
-// first.
+// One entry for each event, its calls in the file's order; calls that no action made come first.
 void RebuildCallbacks(const Session& session, const Widg* widg,
                       const std::map<const Callback*, int>& order, uilfix::Object& object) {
   std::vector<std::pair<std::string, std::vector<const Callback*>>> events;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Mends that need the GIL file at hand; the others are the rewrites of uilfix.
+// Mends that need the GIL file; the others are the rewrites of uilfix.
 #ifndef PANDREL_PORT_MEND_H
 #define PANDREL_PORT_MEND_H
 
@@ -10,7 +10,7 @@
 namespace port {
 
 // Before the actions are converted: puts sub-menus on the items that name them and list items into
-// the file's order, both of which the conversion mirrors, and brings back groups that fell out.
+// the file's order, since the conversion reverses both, and restores groups that it dropped.
 void MendTree(Session& session);
 
 // Before the module is written: gives lists the callback of their policy, and arguments the names

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-// What one run knows of an interface: every object of every GIL file with what became of it, every
-// connection with its fate, every window. All that is written (C, module, resources, report) is
-// made from this and from nothing else.
+// What one run knows of an interface: every object of every GIL file and what became of it, every
+// connection and its fate, every window. All output (C, module, resources, report) is made from
+// this and from nothing else.
 //
-// The model owns its texts. Indices stand in place of pointers: an object, a file and a connection
-// are known by their place in the model's lists, -1 for none.
+// The model owns its texts. It has indices instead of pointers: the place of an object, a file or a
+// connection in the model's lists, -1 for none.
 #ifndef PANDREL_PORT_MODEL_H
 #define PANDREL_PORT_MODEL_H
 
@@ -38,8 +38,8 @@ struct PortWidget {
 
 enum class ObjectFate : uint8_t {
   kShown,     // a widget of the module stands for it
-  kReplaced,  // others stand for it; `reason` tells how
-  kLost,      // nothing does; `reason` tells why
+  kReplaced,  // other widgets do; `reason` says how
+  kLost,      // nothing does; `reason` says why
 };
 
 struct PortObject {
@@ -76,7 +76,7 @@ struct Source {
   std::string condition;  // "set" or "unset": only when a toggle is so; else empty
 };
 
-// One action of a file. Each action stands here exactly once.
+// One action of a file. The model has each action exactly once.
 struct Connection {
   int file = -1;         // whose text holds it; of a project file, the project
   int object = -1;       // whose action it is; -1 for the project's own
@@ -138,7 +138,7 @@ struct PortFunction {
   std::vector<int> connections;  // that call it
 };
 
-// A procedure that the module declares and a function of the user's stands for.
+// A procedure that the module declares, and the function of the user that it is.
 struct PortProcedure {
   std::string module_name;  // in the module as mended
   std::string function;     // in C

@@ -117,7 +117,7 @@ void ResolvePaths(Model& model) {
     connection.to_object = to.object;
     connection.to_item = to.item;
     if (connection.object < 0) continue;
-    // The converter takes an action for the object's own when its path names something unknown. An
+    // As in the converter, an action whose path names something unknown is the object's own. An
     // item's label may stand without the object.
     const PortObject& holder = model.objects[connection.object];
     if (connection.from_object < 0) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the paths of a connection mean.
+// The objects that the paths of a connection mean.
 #ifndef PANDREL_PORT_OBJECT_PATHS_H
 #define PANDREL_PORT_OBJECT_PATHS_H
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Bytes of the user's files as text of a page: valid UTF-8 without what HTML and SVG forbid, and
-// its markup escaped.
+// Bytes of the user's files as text of a page: valid UTF-8 without characters that HTML and SVG
+// forbid, and with its markup escaped.
 #ifndef PANDREL_PORT_PAGE_TEXT_H
 #define PANDREL_PORT_PAGE_TEXT_H
 

@@ -110,7 +110,7 @@ Pictures TakePictures(const Model& model, const fs::path& folder, const fs::path
   fs::create_directories(pictures, error);
   const fs::path output = pictures / "output";
   const fs::path errors = pictures / "errors";
-  // It says by its status whether it found faults, too.
+  // Its status also says whether it found faults.
   const int status = view({"--screenshot", pictures.string(), "--check=tab"}, output, errors);
   for (const PortWindow& window : model.windows) {
     const fs::path file = pictures / (window.shell + ".png");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Pictures and measures of the converted windows, taken by pandrel-view.
+// Pictures and measurements of the converted windows, by pandrel-view.
 #ifndef PANDREL_PORT_PICTURES_H
 #define PANDREL_PORT_PICTURES_H
 
@@ -21,8 +21,8 @@ struct Pictures {
   std::vector<std::string> missing_colors;
 };
 
-// Shows the program's module, which lies in `folder` with its bitmaps and resources, and leaves the
-// pictures in `pictures`. `display` may be empty: the viewer then has a server of its own.
+// Shows the program's module, which is in `folder` with its bitmaps and resources, and writes the
+// pictures to `pictures`. `display` may be empty: the viewer then has a server of its own.
 Pictures TakePictures(const Model& model, const std::filesystem::path& folder,
                       const std::filesystem::path& pictures, const std::string& display);
 

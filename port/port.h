@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// One interface or project made into the folder of a program.
+// Makes the folder of a program from one interface or project.
 #ifndef PANDREL_PORT_PORT_H
 #define PANDREL_PORT_PORT_H
 
@@ -32,7 +32,7 @@ struct PortResult {
   std::string sketch;   // of the first window, SVG
 };
 
-// The folder is written as a whole at the end, or left as it was.
+// Writes the folder as a whole at the end, or leaves it as it was.
 PortResult PortInterface(const Job& job);
 
 }  // namespace port

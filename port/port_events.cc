@@ -73,8 +73,8 @@ bool IsExclusive(const Session& session, const Widg* toggle) {
          HasResource(parent->second, "XmNradioBehavior");
 }
 
-// A toggle calls when it changes; a choice is made when it becomes set. Of a box of which one is
-// set, the one that gives way calls as well.
+// A toggle calls its callback whenever it changes, but a choice is made when it becomes set. In a
+// box of which one toggle is set, the toggle that becomes unset calls its callback as well.
 std::string Condition(const Session& session, const Widg* widg, const Connection& connection,
                       std::string_view event) {
   if (!IsClass(widg, "XmToggleButton")) return "";
@@ -83,7 +83,7 @@ std::string Condition(const Session& session, const Widg* widg, const Connection
   return "";
 }
 
-// The widgets that the path's end means.
+// The widgets that the end of the path names.
 std::vector<Widg*> Candidates(const Session& session, const Connection& connection) {
   const PortObject& object = session.model.objects[connection.from_object];
   const bool has_items = object.type == MENU || object.type == SETTING;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The page over the ports of a whole tree: one row for each program, with totals and failures.
+// The page about the ports of a whole tree: one row for each program, with totals and failures.
 #ifndef PANDREL_PORT_PORT_INDEX_H
 #define PANDREL_PORT_PORT_INDEX_H
 

@@ -13,7 +13,7 @@
 namespace port {
 namespace {
 
-// What the conversion appends to an object's name for the widgets that it makes beside.
+// The suffixes that the conversion appends to an object's name for companion widgets.
 constexpr std::array<std::string_view, 11> kSuffixes = {
     "_label",    "_rc",     "_sw",    "_form",        "_frame",          "_title",
     "_toggle_b", "_push_b", "choice", "_option_menu", "_option_pulldown"};
@@ -22,8 +22,8 @@ bool IsShell(const Widg* widg) {
   return IsClass(widg, "TopLevelShell") || IsClass(widg, "XmDialogShell");
 }
 
-// Appends what hangs below the top level to the session's widgets, parents first, each once. A
-// widget that is not written hides what is below it.
+// Appends the widgets below the top level to those of the session, parents first, each once. Skips
+// a widget that is not written with all below it.
 std::vector<Widg*> CollectNew(Session& session) {
   std::vector<Widg*> fresh;
   std::vector<std::pair<Widg*, Widg*>> open;  // with its parent
@@ -73,7 +73,7 @@ class Linker {
     for (const Widg* widg : widgets) {
       if (Get(widg) < 0) Set(widg, ByName(widg));
     }
-    // A wrapper without a name of its own goes with what it holds; anything else with its parent.
+    // A wrapper without a name of its own belongs to what it holds; any other widget to its parent.
     for (const Widg* widg : widgets) {
       if (Get(widg) < 0 && IsClass(widg, "XmMenuBar") && widg->child) {
         Set(widg, Get(widg->child));
@@ -119,7 +119,7 @@ class Linker {
   std::unordered_map<std::string, int> by_name_;
 };
 
-// Whether the widget lies in a window, and not loose in the module, where nobody fetches it.
+// Whether the widget is in a window; the program does not fetch one that is in none.
 bool IsInWindow(const Session& session, const Widg* widg) {
   std::unordered_map<const Widg*, bool> seen;
   for (const Widg* at = widg; at && !seen[at]; at = session.parent_of.at(at)) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// One conversion while it is at hand: the converter's records beside the model that is made of
-// them. It ends, and the records with it, when the model is complete.
+// One conversion: the converter's records beside the model that is made from them. It ends, and the
+// records with it, when the model is complete.
 #ifndef PANDREL_PORT_PORT_SESSION_H
 #define PANDREL_PORT_PORT_SESSION_H
 
@@ -52,14 +52,14 @@ struct Session {
   std::unordered_map<const Widg*, std::string> names;  // in the module as mended
 };
 
-// Notes for each widget that the tree has got since the last call which object it was made for.
+// For each new widget of the tree since the last call, notes the object that it was made for.
 void LinkWidgets(Session& session, int first_object);
 
 // Lists the written widgets in the order of the module's objects: what is below a widget first. The
 // module has been written.
 void ListWritten(Session& session);
 
-// Tells for every object what became of it. The module has been written and mended.
+// Sets what became of every object. Call it after the module is written and mended.
 void SettleObjects(Session& session);
 
 // The widgets that an object's own attributes went to, in the order in which they were made: the

@@ -52,7 +52,7 @@ PortWindow ReadShell(const Session& session, const Widg* shell) {
       window.work_managed.push_back(child->managed != 0);
     }
   }
-  // A dialog is shown by managing what is in it.
+  // Managing what is in a dialog shows it.
   if (window.dialog && !window.work_managed.empty() && !window.work_managed[0]) {
     window.hidden = true;
   }

@@ -7,8 +7,8 @@
 
 namespace port {
 
-// Fills the model's windows from the shells of the tree; a module may have none, in spite of which
-// the program needs them.
+// Fills the model's windows from the shells of the tree. The program needs them even where the
+// module has none.
 void FindWindows(Session& session);
 
 }  // namespace port

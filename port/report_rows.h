@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The rows of the report's tables, as page text. The page and the text for a terminal have the
-// same.
+// The rows of the report's tables, as page text, for the page and for a terminal.
 #ifndef PANDREL_PORT_REPORT_ROWS_H
 #define PANDREL_PORT_REPORT_ROWS_H
 
@@ -21,7 +20,7 @@ struct ConnectionRow {
   std::string action;  // "Show dialog", "quit()", "code"
   std::string code;    // of an action that is C code; else empty
   std::string fate;
-  std::string call;  // what is called and, in your function's case, which function
+  std::string call;  // what is called, with the name of a user's function
   std::string by;    // "button.activateCallback", one after the other
   std::string reason;
 };
@@ -39,7 +38,7 @@ struct ObjectRow {
 };
 ObjectRow MakeRow(const Model& model, const PortObject& object);
 
-// An icon that nobody has: the names it goes by and where they stand.
+// A missing icon: its names, and where the files use them.
 struct IconRow {
   std::string icon;
   std::string where;

@@ -18,7 +18,7 @@ using Line = std::array<std::string, kColumns>;
 // Columns up to this width line up; a longer text pushes its line to the right.
 static const std::size_t kWidest = 40;
 
-// One line of the table for each action: what does not fit on one is on one all the same.
+// One line of the table for each action, however long.
 static std::string OneLine(std::string text) {
   std::replace(text.begin(), text.end(), '\n', ' ');
   std::replace(text.begin(), text.end(), '\t', ' ');

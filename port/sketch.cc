@@ -47,7 +47,7 @@ static std::string TitleOf(const PortObject& obj) {
   return title;
 }
 
-// How everything of an object is painted; what the file does not colour stays as it is.
+// The colours of an object; parts without a colour in the file keep theirs.
 static std::string StyleOf(const PortObject& obj) {
   std::string style;
   const auto add = [&](const std::string& declaration) {
@@ -63,8 +63,8 @@ static std::string StyleOf(const PortObject& obj) {
 
 // -- groups --
 
-// Where a group stands: around those members, its own and those of groups in it, that have one
-// owner. Members in other windows are left out.
+// The place of a group: around those of its members, and of the members of groups in it, that have
+// one owner. Leaves out members in other windows.
 struct GroupPlace {
   int group = -1;
   int owner = -1;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Sketches of what OPEN LOOK showed, drawn from the objects of GIL files. Places, sizes and texts
-// are those of the file; the looks and the widths of letters are near it.
+// are those of the file; looks and widths of letters are approximate.
 #ifndef PANDREL_PORT_SKETCH_H
 #define PANDREL_PORT_SKETCH_H
 

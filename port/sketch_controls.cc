@@ -113,7 +113,7 @@ static void DrawInside(Sheet& sheet, const Box& box, std::string_view text) {
   }
 }
 
-// Where the value of a control stands, with what the object's own size leaves for it.
+// The place of a control's value, with the size that the object leaves for it.
 static Box ValuePlace(const PortObject& obj) {
   const int x = NumberOf(obj, X, 0);
   const int y = NumberOf(obj, Y, 0);
@@ -366,7 +366,7 @@ static void DrawList(Sheet& sheet, const PortObject& obj) {
 
 // -- settings --
 
-// How the choices of a setting stand and look.
+// The arrangement and the look of a setting's choices.
 struct ChoiceLook {
   int32_t type;
   int gap;     // between two of them
@@ -488,7 +488,7 @@ struct Look {
   void (*draw)(Sheet& sheet, const PortObject& obj);
 };
 
-// Groups and stacks only arrange others: the sketch outlines groups when their members have places.
+// Groups and stacks only arrange others; the sketch outlines groups whose members have places.
 static const auto kLooks = std::to_array<Look>({
     {BASE_WINDOW, false, DrawNothing},
     {POPUP_WINDOW, false, DrawNothing},

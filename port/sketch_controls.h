@@ -38,8 +38,8 @@ Face MakeFace(Sheet& sheet, const std::string& label, bool is_glyph, bool bold =
 // Draws the face from x on, in the middle between y and y + height.
 void DrawFace(Sheet& sheet, const Face& face, int x, int y, int height, bool bold = false);
 
-// The marks that OPEN LOOK has on menu buttons and on items with a sub-menu, 9 pixels wide, around
-// the middle line y.
+// The mark of OPEN LOOK on menu buttons and on items with a sub-menu, 9 pixels wide, around the
+// middle line y.
 void DrawMarkDown(Sheet& sheet, int x, int y);
 void DrawMarkRight(Sheet& sheet, int x, int y);
 
@@ -50,8 +50,8 @@ void DrawPin(Sheet& sheet, int x, int y, bool pinned);
 // leaves the size out.
 Box PlaceOf(const PortObject& obj);
 
-// Draws the object in the coordinates of its owner, without what it owns. Types that show nothing
-// by themselves draw nothing.
+// Draws the object, in the coordinates of its owner, without the objects that it owns. Draws
+// nothing for a type that shows nothing by itself.
 void DrawLook(Sheet& sheet, const PortObject& obj);
 
 // Whether the type holds others at places of their own: panes do.

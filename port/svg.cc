@@ -84,8 +84,8 @@ void Drawing::Image(int x, int y, const Bitmap& bitmap) {
 }
 
 std::string Drawing::Finish(int width, int height, std::string_view label) const {
-  // Half a pixel off, lines of odd width fill pixels. The colours of a page, which may be light on
-  // dark, do not reach in here.
+  // Half a pixel off, lines of odd width fill whole pixels. Set all colours: those of the page may
+  // be light on dark.
   return "<svg xmlns=\"http://www.w3.org/2000/svg\"" + Attribute("width", width + 1) +
          Attribute("height", height + 1) +
          Attribute("viewBox",

@@ -31,19 +31,19 @@ inline constexpr std::string_view kOutline = "fill:none;stroke:#666;stroke-dasha
 
 class Drawing {
  public:
-  // What follows, up to Close(), belongs to one thing: `title` is shown while the pointer is over
-  // it, `style` holds for all in it, and its places count from (x, y).
+  // Begins a group, up to Close(): `title` is shown while the pointer is over it, `style` applies
+  // to all in it, and its places are relative to (x, y).
   void Open(int x, int y, std::string_view title, std::string_view style = "");
   void Close();
 
   void Rect(const Box& box, std::string_view style, int radius = 0);
   // A path in the syntax of SVG.
   void Path(std::string_view path, std::string_view style);
-  // Lines of text; the first one's letters stand on y, 15 pixels lie between them.
+  // Lines of text, 15 pixels apart; y is the baseline of the first.
   void Text(int x, int y, std::string_view text, bool bold = false);
   void Image(int x, int y, const Bitmap& bitmap);
 
-  // The whole picture; `label` says what it is to who cannot see it.
+  // The whole picture; `label` describes it to users who cannot see it.
   std::string Finish(int width, int height, std::string_view label) const;
 
  private:
@@ -52,7 +52,7 @@ class Drawing {
   std::string body_;
 };
 
-// The estimated width of the widest line, in the letters of a sketch.
+// The estimated width of the widest line, in the font of a sketch.
 int TextWidth(std::string_view text, bool bold = false);
 
 // The text's first line, cut with an ellipsis where it is wider than `width`.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The predefined actions: what each does to its target, and by which procedure of the program.
+// The predefined actions: what each does to its target, and which procedure of the program does it.
 #ifndef PANDREL_PORT_TARGETS_H
 #define PANDREL_PORT_TARGETS_H
 
@@ -13,8 +13,8 @@ namespace port {
 struct Call {
   std::string procedure;  // of zo.h: "ZoManageCB"; or of connections.c: "SetLabel"
   std::string argument;   // what ZoManageCB gets: "name.mappedWhenManaged=True"
-  std::string widget;     // of SetLabel and SetValue: whom it is about
-  std::string text;       // and what it becomes
+  std::string widget;     // of SetLabel and SetValue: the widget
+  std::string text;       // and its new text
 
   // As in C, for a reader.
   std::string Text() const;

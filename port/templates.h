@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-// The files that C, make and resource texts are made from, and how they are filled: mustache, where
-// {{x}} is escaped for the file's language (inside a string of C, a value of a resource, single
-// quotes in a recipe) and {{{x}}} stands as it is.
+// The templates of C, make and resource texts. They are in the language of mustache: {{x}} is
+// escaped for the file's language (inside a string of C, a value of a resource, single quotes in a
+// recipe),
+// {{{x}}} stays as it is.
 #ifndef PANDREL_PORT_TEMPLATES_H
 #define PANDREL_PORT_TEMPLATES_H
 

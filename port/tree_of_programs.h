@@ -14,8 +14,8 @@ namespace port {
 // the order of their paths.
 std::vector<std::filesystem::path> FindPrograms(const std::filesystem::path& tree);
 
-// Ports each of them into a folder below job.output that lies as the file does in the tree
-// job.input, `jobs` at a time, and writes job.output/index.html. Goes on after a failure. Tells its
+// Ports each of them, `jobs` at a time, into a folder below job.output at the place that the file
+// has in the tree job.input, and writes job.output/index.html. Goes on after a failure. Reports its
 // progress on standard error. Returns the exit status of the program.
 int PortTree(const Job& job, int jobs);
 

@@ -1,10 +1,10 @@
 /* SPDX-License-Identifier: MIT */
 /*
- * Letters for a server that lacks those of compact.ad.
+ * Fonts for a server that lacks those of compact.ad.
  *
  * The resource file names fonts of the server. Not every server has them, and the toolkit would
- * take letters of any width instead; the file therefore names substitutes for the renditions
- * "plain" and "bold", which this puts in their place where it must:
+ * use a font of any width instead. The file therefore names substitutes for the renditions "plain"
+ * and "bold"; this uses them where it must:
  *
  *     *plain.substituteName: Sans            a family that Xft finds
  *     *plain.substituteStyle: Book

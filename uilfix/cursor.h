@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A place in the text of a module that is being taken apart, for the two parsers.
+// A place in the text of a module, for the two parsers.
 #ifndef PANDREL_UILFIX_CURSOR_H
 #define PANDREL_UILFIX_CURSOR_H
 
@@ -55,9 +55,9 @@ class Cursor {
   };
   Place Here() const { return {pos_, line_}; }
 
-  // Comes back to `place` after a form did not fit that was looked for as far as `furthest`. Forms
-  // may run over many lines, and text that begins like one again and again would be searched to its
-  // end each time. So there is a limit to what may be searched in vain; see HasBudget.
+  // Comes back to `place` after a search for a form failed, which went as far as `furthest`. Forms
+  // may have many lines, and a text that begins like one again and again would be searched to its
+  // end each time. HasBudget therefore limits how much may be searched in vain.
   void Return(const Place& place, std::size_t furthest) {
     pos_ = place.pos;
     line_ = place.line;
@@ -65,7 +65,7 @@ class Cursor {
     budget_ -= std::min(budget_, spent);
   }
 
-  // Whether forms that run over several lines may still be looked for.
+  // Whether the parser may still search for forms of several lines.
   bool HasBudget() const { return budget_ > 0; }
 
  private:

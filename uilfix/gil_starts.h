@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a GIL file says about how sliders, gauges and lists start, which a module does not hold.
+// The initial values of sliders, gauges and lists in a GIL file; a module does not have them.
 #ifndef PANDREL_UILFIX_GIL_STARTS_H
 #define PANDREL_UILFIX_GIL_STARTS_H
 
@@ -18,8 +18,8 @@ struct GilStart {
   std::vector<bool> selections;  // of a list, for each of its items whether it is selected
 };
 
-// Every slider, gauge and list of a GIL text, in its order, those that say nothing included. Text
-// that is no GIL gives none.
+// Every slider, gauge and list of a GIL text, in its order, also those without initial values. A
+// text that is not GIL gives none.
 std::vector<GilStart> ReadGilStarts(std::string_view gil);
 
 }  // namespace uilfix

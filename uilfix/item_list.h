@@ -18,8 +18,8 @@ std::optional<std::vector<std::string>> SplitItems(std::string_view value);
 // The string table of these items, one on a line.
 std::string JoinItems(const std::vector<std::string>& items);
 
-// Whether the items of a list stand in the order of the GIL file. pandrel writes them the other way
-// round; see FixOrder.
+// Whether the items of a list are in the order of the GIL file. pandrel writes them in reverse; see
+// FixOrder.
 bool IsInFileOrder(const Argument& items);
 
 // Notes it, in a comment before the argument.

@@ -10,25 +10,25 @@
 
 namespace uilfix {
 
-// What the compiler takes, without the line end, in comments too.
+// The longest line that the compiler accepts, without its end, also for comments.
 inline constexpr std::size_t kMaxLine = 130;
 
 class LineBreaker {
  public:
-  // `column` is how much of its line is written already; `lead` begins each line that a break
-  // makes.
+  // `column` is how much of the current line is written already. Each line that a break makes
+  // begins with `lead`.
   LineBreaker(std::size_t column, std::string lead) : column_(column), lead_(std::move(lead)) {}
 
   // Text as it is.
   void Append(std::string_view text);
 
-  // Text between values: words, punctuation, strings, comments. Without `words` it breaks in
-  // strings and comments only: where nobody knows what the words mean, a line's first could come to
-  // mean something else.
+  // Text between values: words, punctuation, strings, comments. Without `words` it breaks only in
+  // strings and comments: the first word of a new line could get another meaning when that of the
+  // words is unknown.
   void AppendFree(std::string_view text, bool words = true);
 
-  // A value; `tail` follows it on its last line. A string at its start is broken where it stands,
-  // one further back goes to a line of its own first.
+  // A value; `tail` follows it on its last line. Breaks a string at its start in place, and puts
+  // one further back on a line of its own first.
   void AppendValue(std::string_view value, std::string_view tail);
 
   // Begins a new line when `size` bytes do not fit on this one.

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The string literals inside a UIL value. A value is cut into parts that join to the same text:
-// literals, quotes included, and whatever stands between them. Inside a literal the unit is the
+// literals, quotes included, and whatever is between them. Inside a literal the unit is the
 // "character": one byte, or one whole escape sequence, which no rewrite may cut in two.
 #ifndef PANDREL_UILFIX_LITERALS_H
 #define PANDREL_UILFIX_LITERALS_H
@@ -31,7 +31,7 @@ bool ChangeLiterals(std::string& value, const std::function<std::string(std::str
 
 // The escape sequence at the start of `text` (which begins with a backslash) as the compiler reads
 // it: 2 for \n and its like, the digits and the closing backslash for \233\, 0 when the compiler
-// refuses what stands there.
+// refuses it.
 std::size_t EscapeLength(std::string_view text);
 
 // A byte as the compiler's numeric escape: \233\.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// New names for widgets and procedures: ones that the compiler takes and that nothing else has.
+// New names for widgets and procedures: names that the compiler accepts and that nothing else has.
 #ifndef PANDREL_UILFIX_NAME_POOL_H
 #define PANDREL_UILFIX_NAME_POOL_H
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The compiler's free layout: blanks, line ends and comments anywhere between the words, several
-// definitions behind one keyword. What fits no form here is left to the caller.
+// definitions behind one keyword. The caller handles what fits no form here.
 //
-// An object that is defined inside the list that controls it is not taken apart, nor is a value
-// that holds a comment.
+// Does not parse an object that is defined inside the list that controls it, nor a value that holds
+// a comment.
 #ifndef PANDREL_UILFIX_PARSE_FREE_H
 #define PANDREL_UILFIX_PARSE_FREE_H
 

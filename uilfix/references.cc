@@ -28,7 +28,7 @@ std::optional<Target> CallTarget(const Call& call) {
     begin += 5;
     --end;
   } else if (call.procedure == "ZoSetValuesCB") {
-    // The name itself may hold dots, the resource's name does not.
+    // The name of the widget may hold dots, that of the resource does not.
     const std::size_t equals = text.rfind('=', end);
     if (equals == std::string::npos) return std::nullopt;
     end = text.rfind('.', equals);
@@ -53,8 +53,8 @@ References::References(Module& module) {
   }
 }
 
-// Every object stands after its children, so the children of one are the latest objects that no
-// list has claimed yet. That tells two objects of one name apart.
+// Every object comes after its children, so its children are the latest objects that no list has
+// claimed yet. That tells two objects of one name apart.
 void References::ResolveControls() {
   for (Object* object : objects_) {
     std::vector<Control*> controls;
@@ -69,8 +69,8 @@ void References::ResolveControls() {
   }
 }
 
-// The object that a controls line means. A menu that two parents share is claimed already when the
-// second names it.
+// The object that a controls line means. When two parents share a menu, the second one finds it
+// claimed.
 Object* References::Claim(const Control& control) {
   const auto found = unclaimed_.find(control.name + '\n' + control.class_name);
   if (found == unclaimed_.end() || found->second.empty()) return Find(control.name);

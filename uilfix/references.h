@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Which object each name in a module means. A rename goes through here, so that the definition, the
-// lists that control the widget, the resources that point at it and the arguments that name it at
-// run time all follow.
+// Which object each name in a module means. A rename goes through here, so that it changes the
+// definition, the lists that control the widget, the resources that point at it and the arguments
+// that name it at run time.
 #ifndef PANDREL_UILFIX_REFERENCES_H
 #define PANDREL_UILFIX_REFERENCES_H
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Giving widgets new names, everywhere in a module. Most modules need none, so what there is to
-// know about all names is only gathered for the first.
+// Gives widgets new names, everywhere in a module. Most modules need none, so the first new name is
+// what gathers all names.
 #ifndef PANDREL_UILFIX_RENAMER_H
 #define PANDREL_UILFIX_RENAMER_H
 

@@ -7,9 +7,9 @@
 namespace uilfix {
 namespace {
 
-// Found by giving the compiler of Motif 2.3.8 every word it knows as the name of a procedure. Most
-// of the words that its manual reserves ("any", "file", "icon") pass; short ones that nobody
-// expects ("in", "mm", "pt") do not.
+// The words that the compiler of Motif 2.3.8 refused when given each word that it knows as the name
+// of a procedure. It accepts most of the words that its manual reserves ("any", "file", "icon"),
+// but not some short ones ("in", "mm", "pt").
 constexpr std::string_view kReserved[] = {
     "ANSI1251",
     "ASCII",

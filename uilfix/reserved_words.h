@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the UIL compiler takes as a name.
+// What the UIL compiler accepts as a name.
 #ifndef PANDREL_UILFIX_RESERVED_WORDS_H
 #define PANDREL_UILFIX_RESERVED_WORDS_H
 
@@ -9,7 +9,7 @@
 
 namespace uilfix {
 
-// The longest name, in bytes, that the compiler takes.
+// The longest name, in bytes, that the compiler accepts.
 inline constexpr std::size_t kMaxName = 31;
 
 // The words that the compiler refuses as the name of a widget or procedure, sorted bytewise: its
@@ -18,7 +18,8 @@ std::span<const std::string_view> ReservedWords();
 
 bool IsReservedWord(std::string_view name);
 
-// A letter, "_" or "$", then letters, digits, "_" and "$". Length and meaning are not looked at.
+// Whether the text is a letter, "_" or "$", then letters, digits, "_" and "$"; of any length, and
+// perhaps a reserved word.
 bool HasNameForm(std::string_view name);
 
 }  // namespace uilfix

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Enable and Disable name their target as the GIL file does, and the module names it otherwise: the
+// Enable and Disable name their target as the GIL file does. The module may have another name: the
 // name changed its form, or the file named a menu's item by its label. The run-time library would
-// find no such widget, and the compiler refuses the quotes of a label.
+// not find the widget, and the compiler refuses the quotes of a label.
 #include <memory>
 
 #include "uilfix/literals.h"

@@ -11,7 +11,7 @@ namespace uilfix {
 namespace {
 
 bool IsRefused(unsigned char byte) {
-  if (byte == '\t' || byte == '\n') return false;  // a line end is another rewrite's business
+  if (byte == '\t' || byte == '\n') return false;  // another rewrite handles line ends
   return byte < 0x20 || (byte >= 0x7F && byte < 0xA0);
 }
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// All procedures of a widget stand in one list under the first one's reason. So the help text pops
-// up when the button is pressed, or pressing the button does nothing because help came first; and
-// a text field's notification runs at every keystroke. Help and checking have their own reasons;
-// the rest keep the list's, or get the one that the widget's class has.
+// All procedures of a widget are in one list under the reason of the first. So a press of a button
+// shows the help text, or does nothing because help came first, and a text field's notification
+// runs at every keystroke. This gives help and checking their own reasons; the other procedures
+// keep that of the list, or get the one of the widget's class.
 #include <array>
 
 #include "uilfix/rewrites.h"

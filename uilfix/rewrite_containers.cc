@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A GIL object may own others that Motif's widget for it cannot hold, as a button a label. A
-// bulletin board takes the widget's place, and holds it and its children.
+// A GIL object may own others that its Motif widget cannot hold, for example a button that owns a
+// label. A bulletin board takes the widget's place, and holds it and its children.
 #include <algorithm>
 #include <array>
 #include <unordered_map>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Texts in UTF-8. The compiler refuses the bytes 0x80 to 0x9F, and Motif's default fonts draw one
-// character per byte, so even a text that compiles shows as two letters for one. Latin-1 is what
-// both take.
+// character per byte, so even a text that compiles shows two letters for one. Both accept
+// Latin-1.
 #include <algorithm>
 #include <cstdint>
 #include <optional>
@@ -18,7 +18,7 @@ struct Substitute {
   std::string_view text;
 };
 
-// Typographic characters outside Latin-1 and what typewriters had for them.
+// Typographic characters outside Latin-1 and their equivalents in ASCII.
 constexpr Substitute kSubstitutes[] = {
     {0x2010, "-"},    {0x2011, "-"},    {0x2012, "-"},   {0x2013, "-"},    {0x2014, "--"},
     {0x2018, "'"},    {0x2019, "'"},    {0x201A, ","},   {0x201C, "\\\""}, {0x201D, "\\\""},
@@ -79,7 +79,7 @@ bool ChangeEncoding(std::string& value) {
     again = false;
     std::string whole;
     for (const ValuePart& part : parts) whole += part.literal ? part.text : "";
-    // A byte that is written as a number counts as well: as such it is no UTF-8.
+    // A byte that is written as a number counts, too: it is not UTF-8.
     if (!ToLatin(LiteralBytes(whole))) break;
     for (ValuePart& part : parts) {
       auto latin = part.literal ? ToLatin(part.text) : std::nullopt;

@@ -2,9 +2,9 @@
 // GIL keeps a C string's escapes; the compiler has fewer, and writes a byte as a decimal number
 // between backslashes instead of octal digits.
 //
-// A text that the compiler takes is left as it is, although "\101\102" is then its decimal 101 and
-// not the octal digits that C means: nothing tells the two apart. As soon as one escape of a text
-// is refused, all of it is read as C.
+// A text that the compiler accepts stays as it is, although "\101\102" then means the decimal 101
+// and not the octal digits of C: nothing tells the two apart. If the compiler refuses one escape of
+// a text, all of it is read as C.
 #include "uilfix/literals.h"
 #include "uilfix/rewrites.h"
 #include "uilfix/values.h"
@@ -14,8 +14,8 @@ namespace {
 
 bool IsOctal(char c) { return c >= '0' && c <= '7'; }
 
-// A byte in a UIL string. The upper half stays as it is: what of it the compiler refuses, and
-// whether it is part of a UTF-8 character, is the business of the rewrites that follow.
+// A byte in a UIL string. The upper half stays as it is: later rewrites handle bytes that the
+// compiler refuses and UTF-8.
 std::string WriteByte(unsigned char byte) {
   switch (byte) {
     case '\n':
@@ -53,7 +53,7 @@ std::string TakeCEscape(std::string_view& text) {
   return WriteByte(static_cast<unsigned char>(meant));
 }
 
-// A backslash at a line's end carries the text on; line ends are another rewrite's business.
+// Keeps a backslash at a line's end, which continues the text: another rewrite handles line ends.
 bool CarriesOn(std::string_view text) { return text.starts_with("\\\n"); }
 
 bool IsRefused(std::string_view inside) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // A label is a compound string, where a line end is a separator and not a character: the compiler
-// makes one segment of a plain string, and \n in it draws as a blot.
+// makes one segment of a plain string, and \n in it shows as an odd sign.
 #include "uilfix/literals.h"
 #include "uilfix/rewrites.h"
 
@@ -10,8 +10,8 @@ namespace {
 // The compiler gives up on expressions not much longer than this.
 constexpr std::size_t kMostLines = 10000;
 
-// The lines of a literal's inside, cut at each \n escape. Empty when it is one line, or more than
-// the compiler takes.
+// The lines of a literal's inside, cut at each \n escape. Empty when there is one line, or more
+// than the compiler accepts.
 std::vector<std::string_view> SplitLines(std::string_view inside) {
   std::vector<std::string_view> lines;
   if (inside.find("\\n") == std::string_view::npos) return lines;

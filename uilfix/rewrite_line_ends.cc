@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The carriage returns are left out when the text is read: in the midst of an entry no rewrite
-// would know the entry. What remains to be done is to say so.
+// The parser leaves out carriage returns, since no rewrite would recognise an entry with one
+// inside. This only reports it.
 #include "uilfix/rewrites.h"
 
 namespace uilfix {

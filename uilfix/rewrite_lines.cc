@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The compiler takes lines of 130 bytes, in comments too. What is longer is broken; see
-// line_breaker.h for how. Nothing runs after this: a broken entry is left as bare text.
+// The compiler accepts lines of 130 bytes, also in comments. This breaks longer ones, as
+// line_breaker.h says. Nothing runs after it: a broken entry becomes plain text.
 #include "uilfix/line_breaker.h"
 #include "uilfix/rewrites.h"
 
@@ -29,7 +29,7 @@ class LineMender {
   }
 
  private:
-  // The texts of heads and declarations are short, but for a name that no break can help.
+  // The texts of heads and declarations are short, except for a name, which cannot be broken.
   void Pass(const LayoutPtr& layout) {
     column_ = layout ? ColumnBehind(layout->tail, column_ + layout->head.size()) : 0;
   }

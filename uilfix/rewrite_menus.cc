@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // A menu that a GIL object owns and that no button, item or pane uses keeps its placeholder class,
-// which the compiler does not know. A popup menu is what it can still be: its owner is its parent.
+// which the compiler does not know. It becomes a popup menu, with its owner as parent.
 #include <string>
 #include <unordered_set>
 

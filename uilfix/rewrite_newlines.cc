@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A string ends at the end of its line for the compiler, and the second line of a commented title
-// is no comment any more. A GIL string may hold line ends.
+// A GIL string may hold line ends. For the compiler a string ends at the end of its line, and the
+// second line of a commented title is not a comment.
 #include "uilfix/literals.h"
 #include "uilfix/rewrites.h"
 #include "uilfix/values.h"
@@ -11,7 +11,7 @@ namespace {
 std::string EscapeNewlines(std::string_view inside) {
   std::string escaped;
   for (std::size_t i = 0; i < inside.size(); ++i) {
-    // A backslash before the line end was the editor's way of carrying a string on.
+    // The editor put a backslash before a line end that only continues a string.
     if (inside.substr(i, 2) == "\\\n") {
       ++i;
     } else if (inside[i] == '\n') {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The compiler's integers are those of 32 bits but for the smallest one.
+// The compiler's integers have 32 bits, without the smallest one.
 #include <algorithm>
 #include <cctype>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// A list's items stand in the module in the reverse of the order that the editor showed. Programs
-// may count on that, so they are turned round on request only. A comment tells that it was done:
-// the items alone would not, and the next run would turn them back.
+// The module has a list's items in the reverse of the order that the editor showed. Programs may
+// rely on that, so this reverses them only on request. A comment notes it: without one the next run
+// would reverse them again.
 #include <algorithm>
 
 #include "uilfix/item_list.h"

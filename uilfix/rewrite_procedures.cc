@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Without the builder's run-time library a procedure named like a widget is declared with a capital
-// letter, but only one of the texts that call it changes; and two procedures may come to one name.
+// letter, but only one of the texts that call it changes; and two procedures may get one name.
 #include <cctype>
 #include <unordered_set>
 
@@ -9,8 +9,8 @@
 namespace uilfix {
 namespace {
 
-// In the free layout one keyword may stand in front of several declarations; it must not be left
-// out with the first of them.
+// In the free layout one keyword may precede several declarations. It must stay when the first of
+// them goes.
 void PassOnKeyword(const Declaration& left_out, Item* next) {
   auto* heir = next ? std::get_if<Declaration>(next) : nullptr;
   if (!left_out.layout || !heir || !heir->layout) return;

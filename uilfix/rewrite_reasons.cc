@@ -17,7 +17,7 @@ void FixReasons(Module& module, Report& report) {
       selection = &callback;
       ++count;
     });
-    // Who gives callbacks to several policies changes the policy while the program runs.
+    // With callbacks for several policies the program changes the policy while it runs.
     if (count != 1) return;
     const std::string_view reason = SelectionReason(object);
     if (reason.empty() || selection->reason == reason) return;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Where sliders and gauges stand and which items of a list are selected when the program starts.
-// The GIL file says so and the module does not: a program of OPEN LOOK sets them itself.
+// The initial values of sliders and gauges, and the items of a list that are selected at the start.
+// The GIL file has them and the module does not: an OPEN LOOK program sets them itself.
 #include <algorithm>
 #include <charconv>
 #include <map>
@@ -46,7 +46,7 @@ long NumberOf(const Object& object, std::string_view resource, long otherwise) {
   return number;
 }
 
-// Motif takes a value between the ends of the scale only; its own ends are 0 and 100.
+// Motif accepts only a value between the ends of the scale; its default ends are 0 and 100.
 void SetValue(Object& scale, long value, Report& report) {
   if (FindArgument(scale, "XmNvalue")) return;
   const long least = NumberOf(scale, "XmNminimum", 0);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Under the OPEN LOOK style the choices of a setting have no indicator, and Motif then shows by a
-// button's shadow alone whether it is set. In a radio or check box a toggle has no shadow by
-// itself, so the chosen one could not be told from the others.
+// Under the OPEN LOOK style the choices of a setting have no indicator, so only a button's shadow
+// shows whether it is set. A toggle in a radio or check box has no shadow by default, and the
+// chosen one would look like the others.
 #include "uilfix/rewrites.h"
 
 namespace uilfix {

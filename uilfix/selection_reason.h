@@ -12,8 +12,8 @@ namespace uilfix {
 // Whether the reason is one of those that belong to a selection policy.
 bool IsSelectionReason(std::string_view reason);
 
-// The reason of the list's policy; of Motif's own, which is to browse, when it has none. Empty when
-// the policy is not one of the four.
+// The reason of the list's policy; without one, that of Motif's default, which is to browse. Empty
+// when the policy is not one of the four.
 std::string_view SelectionReason(const Object& list);
 
 }  // namespace uilfix

@@ -95,7 +95,7 @@ class Checker {
   // `x` and `y` are the place of the parent's corner in the window.
   void Check(Widget widget, int x, int y) {
     Rectangle place = Moved(PlaceOf(widget), x, y);
-    // What fills a shell may give the shell's place on the screen for its own.
+    // A widget that fills a shell may report the shell's place on the screen as its own.
     if (XtIsShell(XtParent(widget))) place.x = place.y = 0;
     if (XmIsLabel(widget) || XmIsLabelGadget(widget)) CheckText(widget, place);
     // Their parts are the toolkit's own.

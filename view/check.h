@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What does not fit: measured from the widgets as the toolkit made them.
+// Finds what does not fit, from the widgets as the toolkit made them.
 #ifndef PANDREL_VIEW_CHECK_H
 #define PANDREL_VIEW_CHECK_H
 
@@ -23,8 +23,8 @@ struct Finding {
   enum class Kind {
     kOverlap,  // two visible siblings share a part of their container; `across` and `down`: its
                // size
-    kCut,      // the text of a label or button has no room; the pixels that are missing
-    kOutside,  // a control reaches out of its container; by how many pixels
+    kCut,      // the text of a label or button is too large; by how many pixels
+    kOutside,  // a control lies partly outside its container; by how many pixels
     kIcon,     // an icon cannot be read
     kColor,    // a colour is not known
   };
@@ -41,8 +41,8 @@ struct Finding {
 };
 
 // The overlaps, cut texts and controls outside their containers in a window that is shown, in the
-// order of its widgets. Menus are left out: the toolkit itself gives them their size. So is what a
-// scrolled window shows a part of. `gil_names` are the names of the objects in the GIL file.
+// order of its widgets. Leaves out menus, whose size the toolkit sets, and the contents of scrolled
+// windows. `gil_names` are the names of the objects in the GIL file.
 std::vector<Finding> CheckWindow(const Window& window, const std::vector<std::string>& gil_names);
 
 // A finding as a sentence, without line end.

@@ -21,7 +21,7 @@ struct CompilerMessage {
 
 struct Compilation {
   bool ok = false;      // the .uid is there
-  std::string failure;  // why the compiler could not do its work at all; empty otherwise
+  std::string failure;  // why the compiler could not run to its end; empty otherwise
   std::vector<CompilerMessage> messages;
 };
 

@@ -15,7 +15,7 @@ FileWatch::FileWatch(const fs::path& file)
       project_(file.extension() == ".P"),
       descriptor_(inotify_init1(IN_CLOEXEC | IN_NONBLOCK)) {
   if (descriptor_ < 0) return;
-  // The folder and not the file: an editor may put a new file in its place.
+  // Watch the folder, not the file: an editor may put a new file in its place.
   const std::string folder = file.parent_path().string();
   if (inotify_add_watch(descriptor_, folder.c_str(), IN_CLOSE_WRITE | IN_MOVED_TO) < 0) {
     close(descriptor_);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Tells when a file has been written anew, by an editor that writes into it or one that puts
-// another file in its place.
+// Tells when a file was saved, by an editor that writes into it or one that puts another file in
+// its place.
 #ifndef PANDREL_VIEW_FILE_WATCH_H
 #define PANDREL_VIEW_FILE_WATCH_H
 
@@ -18,10 +18,10 @@ class FileWatch {
   FileWatch(const FileWatch&) = delete;
   FileWatch& operator=(const FileWatch&) = delete;
 
-  // Is ready for reading when there is news; -1 when nothing can be watched.
+  // A descriptor that is ready for reading after a change; -1 when nothing can be watched.
   int Descriptor() const { return descriptor_; }
 
-  // Reads the news that has come. Returns whether any was about what is watched.
+  // Reads the changes so far. Returns whether one of them was in a watched file.
   bool TakeNews();
 
  private:

@@ -21,8 +21,7 @@ struct GlyphButton {
   std::string icon;  // the file, as the GIL text names it
 };
 
-// The buttons of a GIL text that show an icon. The converter leaves them the icon's name for a
-// label.
+// The buttons of a GIL text that show an icon. In the module their label is the icon's name.
 std::vector<GlyphButton> ReadGlyphButtons(std::string_view gil);
 
 // The text of a GIL file; of a project, with those of the interface files in its folder behind it.

@@ -29,7 +29,7 @@ void HeldErrors::End(bool print) {
   ssize_t size = 0;
   while (print && (size = pread(memory_, buffer, sizeof buffer, at)) > 0) {
     at += size;
-    // Nobody is told when standard error takes nothing.
+    // There is nobody to tell when standard error cannot be written.
     if (write(STDERR_FILENO, buffer, static_cast<std::size_t>(size)) < 0) break;
   }
   close(memory_);

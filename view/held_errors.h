@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-// Standard error kept back for a while: libraries that meet a damaged file write there what would
-// hide the one message that helps.
+// Holds back standard error for a while: on a damaged file libraries write messages there that
+// would hide the one that helps.
 #ifndef PANDREL_VIEW_HELD_ERRORS_H
 #define PANDREL_VIEW_HELD_ERRORS_H
 
 namespace view {
 
-// Keeps what is written to standard error, by whatever library, until Release() or Discard(), or
-// its own end, which releases it. If the program crashes meanwhile the text is lost, as is meant.
+// Holds back what any code writes to standard error until Release(), Discard() or the destructor,
+// which releases it. A crash of the program loses the text, on purpose.
 class HeldErrors {
  public:
   HeldErrors();

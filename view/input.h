@@ -15,8 +15,8 @@
 namespace view {
 
 struct Interface {
-  std::string error;          // why there is nothing to show, with line ends; empty if all is well
-  std::filesystem::path uid;  // the compiled module
+  std::string error;             // why there is nothing to show, with line ends; empty on success
+  std::filesystem::path uid;     // the compiled module
   std::filesystem::path folder;  // where its bitmaps are
   bool compiled = false;         // the user's file is a compiled module already
   bool has_module = false;       // false for a .uid without its .uil beside it
@@ -27,8 +27,8 @@ struct Interface {
   std::set<std::string> left_out;          // widgets that are in the module and in no window
 };
 
-// Does all that comes before the first window. Notes go to standard error. The user's folders are
-// only read: what the converter and the compiler write goes to the folder `scratch`.
+// Does all that comes before the first window. Notes go to standard error. Only reads the user's
+// folders: the output of the converter and the compiler goes to the folder `scratch`.
 Interface PrepareInterface(const Options& options, const std::filesystem::path& scratch);
 
 // An object as messages name it: its widget, and its name in the GIL file where that is known.

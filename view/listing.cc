@@ -86,11 +86,11 @@ void ListBelow(Widget widget, int depth, int x, int y, std::ostream& out) {
   Position own_y = 0;
   XtVaGetValues(widget, XmNx, &own_x, XmNy, &own_y, nullptr);
   const bool shell = XtIsShell(widget);
-  // What fills a shell may give the shell's place on the screen for its own.
+  // A widget that fills a shell may report the shell's place on the screen as its own.
   const bool corner = shell || XtIsShell(XtParent(widget));
   x = corner ? 0 : x + own_x;
   y = corner ? 0 : y + own_y;
-  // The shell of a menu is Motif's own affair, and belongs to no object of the module.
+  // Motif makes the shell of a menu; it belongs to no object of the module.
   const bool menu_shell = shell && depth > 0;
   if (!menu_shell) {
     out << std::string(static_cast<std::size_t>(depth) * 2, ' ') << XtName(widget) << ": "

@@ -12,7 +12,7 @@ namespace view {
 // Prints the widgets of a window that is shown, one per line, indented by depth:
 //   name: Class WIDTHxHEIGHT+X+Y label="..." insensitive
 // The place is that of the widget's upper left corner in its window (menu items: in their menu).
-// What is said after it, where it applies: title, label, value, items, set, unmanaged, unmapped,
+// The words after it, where they apply: title, label, value, items, set, unmanaged, unmapped,
 // insensitive.
 void ListWindow(const Window& window, std::ostream& out);
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the toolkit says while it reads a compiled module.
+// The toolkit's warnings while it reads a compiled module.
 #ifndef PANDREL_VIEW_LOAD_WARNINGS_H
 #define PANDREL_VIEW_LOAD_WARNINGS_H
 
@@ -20,7 +20,8 @@ struct LoadWarnings {
 // Sorts the toolkit's warnings by what they mean.
 LoadWarnings SortWarnings(const std::vector<std::string>& warnings);
 
-// Collects the warnings of the toolkit in place of printing them, while it lives. One at a time.
+// While it lives, collects the warnings of the toolkit instead of printing them. Make only one at a
+// time.
 class WarningCollector {
  public:
   explicit WarningCollector(XtAppContext app);

@@ -78,7 +78,7 @@ Image GrabApart(Display* display, ::Window window, const XWindowAttributes& at) 
   return {image, DestroyImage};
 }
 
-// The part of the window that lies on the screen; null when nothing does.
+// The part of the window that is on the screen; null when there is none.
 Image GrabFromScreen(Display* display, ::Window window, const XWindowAttributes& at) {
   int x = 0;
   int y = 0;

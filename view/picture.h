@@ -10,9 +10,9 @@
 
 namespace view {
 
-// Lets the server keep the pictures of windows apart from the screen, so that none shows a part of
-// another and none is cut at the screen's edge. To be called before any window is made. Returns
-// false on a server that cannot; pictures are then taken from the screen.
+// Makes the server draw windows off the screen, so that no picture shows a part of another window
+// or is cut at the screen's edge. Call it before any window is made. Returns false on a server that
+// cannot do so; pictures then come from the screen.
 bool KeepPicturesApart(Display* display);
 
 // Writes what the shell's window shows, borders of a window manager left out. Returns what went

@@ -12,8 +12,8 @@ namespace view {
 // Writes which windows are shown, and where, to the file.
 void SavePlaces(const Windows& windows, const std::filesystem::path& file);
 
-// Shows the windows that were shown, where they were; those that the file does not name as the
-// module has it. Returns false when there is no such file.
+// Shows the windows that were shown, where they were, and windows that the file does not name as
+// the module says. Returns false when there is no such file.
 bool RestorePlaces(const Windows& windows, const std::filesystem::path& file);
 
 }  // namespace view

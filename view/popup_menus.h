@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Popup menus come up on the menu button. Nothing in a module says so, and Motif does not do it by
+// Posts popup menus on the menu button: modules do not ask for it, and Motif does not do it by
 // itself.
 #ifndef PANDREL_VIEW_POPUP_MENUS_H
 #define PANDREL_VIEW_POPUP_MENUS_H
@@ -8,7 +8,7 @@
 
 namespace view {
 
-// Lets every popup menu post when button 3 goes down over its parent or a widget inside of that.
+// Posts every popup menu when button 3 goes down over its parent or a widget inside of that.
 void PostPopupMenus(const Windows& windows);
 
 }  // namespace view

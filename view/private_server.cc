@@ -68,7 +68,7 @@ std::string PrivateServer::Start(const std::filesystem::path& scratch) {
   if (pipe(ends) != 0) return std::strerror(errno);
   fcntl(ends[0], F_SETFD, FD_CLOEXEC);
   Command command;
-  // Without -noreset the server would start over when its last client leaves.
+  // Without -noreset the server would restart when its last client leaves.
   command.arguments = {program->string(), "-displayfd", std::to_string(ends[1]),
                        "-screen",         "0",          kScreen,
                        "-nolisten",       "tcp",        "-noreset",

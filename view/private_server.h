@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// An X server of this program's own, without a screen, for pictures and measures: nobody else's
-// windows are on it, and its size and fonts are not those of the user's display.
+// An X server of this program's own, without a screen, for pictures and measurements: it has no
+// windows of other programs, and its size and fonts do not depend on the user's display.
 #ifndef PANDREL_VIEW_PRIVATE_SERVER_H
 #define PANDREL_VIEW_PRIVATE_SERVER_H
 
@@ -18,8 +18,8 @@ class PrivateServer {
   PrivateServer(const PrivateServer&) = delete;
   PrivateServer& operator=(const PrivateServer&) = delete;
 
-  // Starts an Xvfb that lets in only who knows the secret in a file of the folder `scratch`.
-  // Returns what went wrong, or the empty text.
+  // Starts an Xvfb that accepts only clients with the secret in a file of the folder `scratch`.
+  // Returns an error message, or the empty text.
   std::string Start(const std::filesystem::path& scratch);
 
   // For the environment of its clients: DISPLAY and XAUTHORITY.

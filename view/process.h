@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Running the converter, the compiler and the X server: found, started, watched and listened to.
+// Finds and runs the converter, the compiler and the X server, and collects their output.
 #ifndef PANDREL_VIEW_PROCESS_H
 #define PANDREL_VIEW_PROCESS_H
 
@@ -22,13 +22,13 @@ struct Command {
 
 struct Outcome {
   bool started = false;
-  bool timed_out = false;  // killed when its time was over
+  bool timed_out = false;  // killed at the time limit
   int status = -1;         // exit status; -1 when ended by a signal
   std::string output;      // standard output and standard error, as they came
 };
 
-// Runs a program to its end. When this program is told to end meanwhile (StopSignal), the other one
-// and all that it started are killed.
+// Runs a program to its end. If this program is told to end meanwhile (StopSignal), kills the other
+// one and all that it started.
 Outcome RunCommand(const Command& command);
 
 // In a child process: becomes the program, which leads a process group of its own and gets

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Showing each window alone, for a picture or a listing of it.
+// Shows each window alone, for a picture or a listing of it.
 #ifndef PANDREL_VIEW_SCREENSHOTS_H
 #define PANDREL_VIEW_SCREENSHOTS_H
 
@@ -11,8 +11,8 @@
 
 namespace view {
 
-// Shows the windows one after the other, dialogs and hidden ones too, each alone in the corner of
-// the screen and drawn to the end, and calls `visit` for it.
+// Shows the windows one after the other, also dialogs and hidden ones, each alone in the corner of
+// the screen, and calls `visit` for it once it is drawn.
 void ForEachShownWindow(const Windows& windows, const std::function<void(const Window&)>& visit);
 
 // The file of a window's picture: `file` for the first window and, for a further one, the file of

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The windows of a module. UIL has no shells, so the module tells of them in comments only, and
-// whoever shows it makes them: this reads what to make.
+// The windows of a module. UIL has no shells, so the module describes them in comments and the
+// program that shows it makes them. This reads what to make.
 #ifndef PANDREL_VIEW_SHELLS_H
 #define PANDREL_VIEW_SHELLS_H
 

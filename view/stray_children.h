@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Widgets that a module puts where Motif has no place for them. Such a one ends the program or
-// crashes it, so it is left out.
+// Widgets that a module puts into parents that cannot have them. Such a widget ends or crashes the
+// program, so it is left out.
 #ifndef PANDREL_VIEW_STRAY_CHILDREN_H
 #define PANDREL_VIEW_STRAY_CHILDREN_H
 

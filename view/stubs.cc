@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A callback is told nothing about the name it was registered under, so each name needs a function
-// of its own: one instance of a template per place in a list of names.
+// A callback does not get the name under which it was registered, so each name needs a function of
+// its own: one instance of a template per place in a list of names.
 #include "stubs.h"
 
 #include <algorithm>

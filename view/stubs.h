@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Procedures of the application, which this program does not have: each announces its call.
+// Stands in for the application's procedures, which this program does not have: each prints its
+// call.
 #ifndef PANDREL_VIEW_STUBS_H
 #define PANDREL_VIEW_STUBS_H
 
@@ -14,7 +15,7 @@ namespace view {
 inline constexpr std::size_t kMaxStubs = 1024;
 
 // A procedure that prints "widget: XmNreasonCallback -> name" on standard output when it is called;
-// null when kMaxStubs are in use. A name asked for twice gives the same one.
+// null when kMaxStubs are in use. The same name gives the same procedure.
 XtCallbackProc StubFor(const std::string& name);
 
 // The callback resource of a reason, "XmNactivateCallback" for XmCR_ACTIVATE; "reason NUMBER" for

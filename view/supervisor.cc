@@ -30,8 +30,7 @@ using std::chrono::milliseconds;
 
 constexpr char kProgram[] = "pandrel-view";
 
-// Longer than any module takes to read. A damaged one may send the resource manager round in
-// circles.
+// Longer than reading any module takes. The resource manager may loop on a damaged one.
 constexpr milliseconds kLoadLimit{60'000};
 // For a process to end after it was asked to.
 constexpr milliseconds kEndLimit{2'000};
@@ -84,8 +83,8 @@ class Supervisor {
     return std::nullopt;
   }
 
-  // What ends by itself needs no user's display, and is better off without: others may have windows
-  // there. Returns what went wrong, or the empty text.
+  // A run that ends by itself uses a server of its own, since the user's display may show windows
+  // of other programs. Returns an error message, or the empty text.
   std::string ChooseServer() {
     const auto& given = options_.toolkit_options;
     const bool named = std::find(given.begin(), given.end(), "-display") != given.end();
@@ -121,7 +120,7 @@ class Supervisor {
     fs::current_path(interface.folder, error);
     const int status =
         RunSession(options_, interface, {ready, own_server_, scratch_.Path() / "places"});
-    // The supervisor's own objects are left alone: the folder and the server are its to remove.
+    // Leave the supervisor's objects alone: it removes the folder and the server itself.
     std::exit(status);
   }
 

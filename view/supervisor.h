@@ -8,8 +8,8 @@
 
 namespace view {
 
-// Does what the options ask for and returns the exit status. Ends by the signal when one of those
-// that end programs comes; temporary files are gone and other processes ended by then.
+// Does what the options ask for and returns the exit status. When a signal that ends programs
+// comes, it removes its temporary files, ends its other processes, and then ends by that signal.
 int Supervise(Options options);
 
 }  // namespace view

@@ -67,7 +67,7 @@ void Settle(const Toolkit& toolkit) {
   const auto end = Clock::now() + std::chrono::seconds(2);
   auto last = Clock::now();
   bool any = true;
-  // A server that serves nobody else has sent all events by the time it answers.
+  // A server without other clients has sent all events when it answers.
   while (Clock::now() < end && (any || Clock::now() - last < quiet)) {
     XSync(toolkit.display, False);
     any = false;

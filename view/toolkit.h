@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The connection to the X server and what the toolkit complains about.
+// The connection to the X server, and the toolkit's errors and warnings.
 #ifndef PANDREL_VIEW_TOOLKIT_H
 #define PANDREL_VIEW_TOOLKIT_H
 
@@ -15,7 +15,7 @@ struct Toolkit {
   XtAppContext app = nullptr;
   Display* display = nullptr;  // null when it could not be opened
   std::string display_name;    // as asked for, for the message
-  bool alone = false;          // no other client is there, no window manager above all
+  bool alone = false;          // there is no other client, and so no window manager
 };
 
 // Starts the toolkit with its own options ("-display", ...) and opens the display. X errors and
@@ -25,8 +25,8 @@ Toolkit StartToolkit(const std::vector<std::string>& toolkit_options);
 // How many X errors there were.
 int XErrorCount();
 
-// Handles events until what was asked for has been done and drawn. Where other clients may have a
-// part in it, that is when no event has come for a while; at most two seconds.
+// Handles events until all requests are done and drawn. With other clients on the server, which may
+// take part in them, waits until no event comes for a while, at most two seconds.
 void Settle(const Toolkit& toolkit);
 
 // The text of a resource of the program itself, such as "geometry" (set by -geometry); empty when

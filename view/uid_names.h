@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What a compiled module holds, when its source is not at hand. The resource manager fetches by
-// name only and cannot tell which names there are, so they are looked for in the file.
+// The widgets of a compiled module without its source. The resource manager fetches by name and
+// cannot list the names, so this looks for them in the file.
 #ifndef PANDREL_VIEW_UID_NAMES_H
 #define PANDREL_VIEW_UID_NAMES_H
 
@@ -19,8 +19,8 @@ namespace view {
 // Every text in the file that may be a name, without duplicates, in the order of the file.
 std::vector<std::string> ReadUidNames(const std::filesystem::path& uid);
 
-// A window for each widget of the module that lies in no other one, found by fetching every one of
-// `names`. Procedures that turn out to be called are given to `provide` as they are met.
+// A window for each widget of the module that is in no other one, found by fetching every one of
+// `names`. Calls `provide` for each procedure that the module calls.
 std::vector<Shell> ShellsOfUid(MrmHierarchy hierarchy, const Toolkit& toolkit,
                                const std::vector<std::string>& names,
                                const std::function<void(const std::string&)>& provide);

@@ -23,7 +23,7 @@ struct Options {
   Check check = Check::kNo;    // --check
   bool all = false;            // show what is hidden at start, too
   bool watch = false;          // start over when the file changes
-  bool compact = false;        // the metrics and letters that the interfaces were drawn for
+  bool compact = false;        // the metrics and the font that the interfaces were drawn for
   std::vector<std::string> resource_files;     // --resources
   bool fix = true;                             // rewrite the module before compiling
   bool verbose = false;                        // tell the rewrites and the converter's notes
@@ -32,7 +32,7 @@ struct Options {
   std::vector<std::string> toolkit_options;    // for the X toolkit, as given
 
   bool TakesPictures() const { return !picture.empty() || !picture_folder.empty(); }
-  // Whether the program ends by itself, without anybody looking at the windows.
+  // Whether the program ends by itself and shows no windows to the user.
   bool IsBatch() const { return TakesPictures() || list || check != Check::kNo; }
 };
 

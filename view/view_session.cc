@@ -121,8 +121,8 @@ void SaveAndEnd(XtPointer, XtSignalId*) {
   XtAppSetExitFlag(session.windows.toolkit.app);
 }
 
-// Shows what the module shows at start. When that is nothing, all of it, so that there is something
-// to look at and to close.
+// Shows what the module shows at the start, or all windows if it shows none, so that the user has
+// something to look at and to close.
 void ShowAtStart(const Windows& windows, bool all) {
   const auto begin = windows.windows.begin();
   const bool none = std::none_of(begin, windows.windows.end(), IsShownAtStart);
@@ -192,8 +192,8 @@ Widget FindWidget(const std::string& name) {
   return ZoFind(session.windows.windows.front().shell, name.c_str());
 }
 
-// The buttons that should show an icon and have its name for a label. Resources of the user's may
-// have given a button its icon.
+// The buttons that should show an icon and whose label is its name. Resources of the user may have
+// given a button its icon.
 std::vector<MissingPart> FindGlyphButtons(const Interface& interface) {
   std::vector<MissingPart> missing;
   const auto look = [&](Widget widget) {
@@ -211,7 +211,7 @@ std::vector<MissingPart> FindGlyphButtons(const Interface& interface) {
   return missing;
 }
 
-// Tells what is missing and draws boxes for icons. Returns the same as findings.
+// Reports what is missing and draws boxes for icons. Returns the same as findings.
 std::vector<Finding> TellMissingParts(const std::vector<MissingPart>& parts,
                                       const Interface& interface) {
   std::vector<Finding> findings;
@@ -238,8 +238,8 @@ std::string Printable(std::string text) {
   return text;
 }
 
-// Tells what the toolkit said while it read the module. Of a compiled module without its source
-// this is all that is known about icons and colours. Returns whether the module is whole.
+// Reports the toolkit's warnings from reading the module. For a compiled module without its source,
+// nothing else is known about icons and colours. Returns whether the module is undamaged.
 bool TellWarnings(const LoadWarnings& warnings, const Interface& interface) {
   if (session.compiled && !warnings.damage.empty()) {
     std::cerr << kProgram << ": " << session.file << ": damaged; what can be read of it is shown ("

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// One interface on one X server, from the compiled module to the last window's end. Runs in a
-// process of its own: a damaged module may crash the resource manager.
+// One interface on one X server, from the compiled module to the end of the last window. Runs in a
+// process of its own, since a damaged module may crash the resource manager.
 #ifndef PANDREL_VIEW_VIEW_SESSION_H
 #define PANDREL_VIEW_VIEW_SESSION_H
 
@@ -21,9 +21,9 @@ struct SessionLinks {
 inline constexpr int kFailure = 1;
 inline constexpr int kUsage = 2;
 
-// Shows, lists, checks or photographs the interface. The working directory is the interface's, and
-// file names in `options` are absolute. On SIGUSR1 the widgets on the screen are printed, on
-// SIGUSR2 the places are written and the program ends. Returns the exit status.
+// Shows, lists, checks or takes pictures of the interface. The working directory is the
+// interface's, and file names in `options` are absolute. On SIGUSR1 the widgets on the screen are
+// printed, on SIGUSR2 the places are written and the program ends. Returns the exit status.
 int RunSession(const Options& options, const Interface& interface, const SessionLinks& links);
 
 }  // namespace view

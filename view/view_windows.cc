@@ -25,7 +25,7 @@ constexpr Dimension kEmptyHeight = 100;
 // The pointer that the toolkit's functions want where they do not write.
 char* Mutable(const std::string& text) { return const_cast<char*>(text.c_str()); }
 
-// How long nothing has to be on the screen before the program ends: a procedure that hides one
+// How long no window must be on the screen before the program ends: a procedure that hides one
 // window and shows another leaves a moment without any.
 constexpr unsigned long kNoWindowMs = 100;
 
@@ -51,8 +51,8 @@ void CloseWindow(Widget shell, XtPointer closure, XtPointer) {
   XtAppSetExitFlag(windows->toolkit.app);
 }
 
-// Whether the class of the widget has the resource: the module gives a shell whatever the GIL
-// window had, a foreground among it.
+// Whether the class of the widget has the resource: the module gives a shell all that the GIL
+// window had, also a foreground.
 bool HasResource(Widget widget, const std::string& name) {
   XtResourceList list = nullptr;
   Cardinal count = 0;
@@ -63,8 +63,8 @@ bool HasResource(Widget widget, const std::string& name) {
   return has;
 }
 
-// Whether the display knows the colour. The toolkit would say of another one which class it is of,
-// and not which window; missing_parts.h does.
+// Whether the display knows the colour. For an unknown one the toolkit would name the class but not
+// the window; missing_parts.h does.
 bool KnowsColor(Widget shell, const std::string& color) {
   XColor parsed;
   Colormap map = DefaultColormapOfScreen(XtScreen(shell));

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Folders that look like the user's and can be written to: the converter puts the bitmaps of glyphs
-// beside them, and looking at an interface should leave no files behind.
+// Writable folders that look like the user's: the converter writes the bitmaps of glyphs beside
+// them, and a look at an interface should leave no files behind.
 #ifndef PANDREL_VIEW_WRITABLE_FOLDER_H
 #define PANDREL_VIEW_WRITABLE_FOLDER_H
 

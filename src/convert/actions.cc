@@ -22,24 +22,24 @@ char* FixInstanceNameForZO25(char* name) {
   return usezo && zo25 ? ReplaceTrailingDigit(name) : name;
 }
 
-// What shows or hides a widget. The procedure texts are writable, as those of the file are.
-struct Visibility {
-  char* shell_procedure;
-  const char* setting;
-};
-
+// The texts of procedures must be writable, as those from the file are.
 static char manage_procedure[] = "ZoManageCB";
 static char unmanage_procedure[] = "ZoUnmanageCB";
 static char set_values_procedure[] = "ZoSetValuesCB";
 static char sensitive_procedure[] = "ZoSetSensitiveCB";
 static char insensitive_procedure[] = "ZoSetInsensitiveCB";
 
+// What shows or hides a widget: the procedure for a dialog, the setting for any other.
+struct Visibility {
+  char* dialog_procedure;
+  const char* setting;
+};
+
 static const Visibility kShow = {manage_procedure, ".mappedWhenManaged=True"};
 static const Visibility kHide = {unmanage_procedure, ".mappedWhenManaged=False"};
 
-// A dialog is shown and hidden by managing what is in it; for the builder's version 2.5 the name
-// goes into a widget list.
-static char* MakeDialogArgument(Widg* content) {
+// Managing what is in a dialog shows it. The builder's version 2.5 takes the name in a widget list.
+static char* MakeDialogArgument(const Widg* content) {
   return zo25 ? MakeWidgList(FixInstanceNameForZO25(content->name))
               : MakeQuotedString(content->name);
 }
@@ -48,7 +48,7 @@ static Widg* FindWidgToSet(const char* target, const Visibility& visibility, cha
                            char** argument) {
   Widg* found = FindWidgWithChild(top_widget, target);
   if (found && IsClass(found, "XmDialogShell")) {
-    *procedure = visibility.shell_procedure;
+    *procedure = visibility.dialog_procedure;
     *argument = MakeDialogArgument(found->child);
     return found->child;
   }
@@ -78,7 +78,7 @@ void FindAndFixUpWidgetName(const char* name) {
   FixInstanceNameForZO25(target->name);
 }
 
-// Enable and Disable name their target by its GIL name.
+// Enable and Disable use the target's GIL name, not that of its instance.
 static char* MakeSensitivityArgument(const Value* to) {
   char* name = ValueText(to);
   FindAndFixUpWidgetName(name);
@@ -88,8 +88,10 @@ static char* MakeSensitivityArgument(const Value* to) {
   return MakeWidgList(name);
 }
 
-void AddCallbackForDefinedAction(Widg* widg, const Value* when, const Value* to,
-                                 const Value* action) {
+// Adds a callback for "Show", "Hide", "Enable" or "Disable" of the widget that `to` names. For the
+// builder's version 2.5 this may rename that widget, and change the text of `to`.
+static void AddCallbackForDefinedAction(Widg* widg, const Value* when, const Value* to,
+                                        const Value* action) {
   if (!IsStringValue(when)) {
     std::fputs("***ERROR: ProcessAction: WHEN is not StringConstant\n", stderr);
     return;
@@ -103,13 +105,13 @@ void AddCallbackForDefinedAction(Widg* widg, const Value* when, const Value* to,
   char* procedure = nullptr;
   char* argument = nullptr;
   if (OsiStrcmp(name, "Show") == 0) {
-    Widg* shown = FindWidgToShow(target, &procedure, &argument);
-    if (!shown) std::fprintf(stderr, "Cannot find child to show: %s\n", target);
-    if (shown && zo25) FixInstanceNameForZO25(shown->name);
+    if (!FindWidgToShow(target, &procedure, &argument)) {
+      std::fprintf(stderr, "Cannot find child to show: %s\n", target);
+    }
   } else if (OsiStrcmp(name, "Hide") == 0) {
-    Widg* hidden = FindWidgToHide(target, &procedure, &argument);
-    if (!hidden) std::fprintf(stderr, "Cannot find child to hide: %s\n", target);
-    if (hidden && zo25) FixInstanceNameForZO25(hidden->name);
+    if (!FindWidgToHide(target, &procedure, &argument)) {
+      std::fprintf(stderr, "Cannot find child to hide: %s\n", target);
+    }
   } else if (OsiStrcmp(name, "Enable") == 0) {
     procedure = sensitive_procedure;
     argument = MakeSensitivityArgument(to);
@@ -119,15 +121,17 @@ void AddCallbackForDefinedAction(Widg* widg, const Value* when, const Value* to,
   } else {
     std::fprintf(stderr, "ProcessAction: Unknown action_name %s\n", name);
   }
-  // Asked for in every case: an event without a callback is noted even when the target is missing.
+  // Look the event up in every case: one without a callback is noted even when the target is
+  // missing.
   const char* callback_name = MapActionToCallback(widg, ValueText(when));
   if (callback_name && procedure && argument) {
     AddCallback(widg, callback_name, procedure, argument);
   }
 }
 
-void AddCallbackForCallFunction(Widg* widg, const Value* when, const Value* action) {
-  // Asked for even without an action, since the event may be one to note.
+// Adds a callback that calls the function named by `action`, if the event has a callback.
+static void AddCallbackForCallFunction(Widg* widg, const Value* when, const Value* action) {
+  // Look the event up even without an action: it may be one to note.
   const char* callback_name = MapActionToCallback(widg, ValueText(when));
   if (callback_name && action) AddCallback(widg, callback_name, ValueText(action), "");
 }

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
-// GIL actions (connections between objects) to callbacks, once the whole tree stands: actions may
-// name objects of any file of a project. Calls of user functions become callbacks of their own;
-// show, hide, enable and disable call the builder's run-time library. What Motif has no equivalent
-// for is dropped, with a note on standard error when `verbose` is set.
+// Turns GIL actions (connections between objects) into callbacks, once all widgets are there, since
+// an action may name objects of any file of a project. A call of a user function becomes a callback
+// to it; show, hide, enable and disable call the builder's run-time library. Drops what Motif has
+// no equivalent for, with a note on standard error when `verbose` is set.
 #ifndef PANDREL_CONVERT_ACTIONS_H
 #define PANDREL_CONVERT_ACTIONS_H
 
 struct Action;
-struct Value;
 struct Widg;
 
 // Converts the actions of every widget below, children before parents, then the widget's own.
@@ -16,32 +15,25 @@ void ProcessActionsForWidgHierarchy(Widg* widg);
 // Converts the actions of one widget, in list order.
 void ProcessActionsForWidg(Widg* widg);
 
-// The widget that the action comes from: the widget itself, or the first of its children whose
-// label or glyph is the last name of FROM (an item of a setting or a menu).
+// The widget that the action comes from: the first child (an item of a setting or a menu) whose
+// label or glyph is the last name of FROM; without such a child the widget itself.
 Widg* LocateFromWidg(Widg* widg, const Action* action);
 
 // Converts one action of the widget; nothing happens for null.
 void ProcessAction(Widg* widg, const Action* action);
 
-// Adds a callback that calls the function named by `action`, if the event has one.
-void AddCallbackForCallFunction(Widg* widg, const Value* when, const Value* action);
-
-// Adds a callback for "Show", "Hide", "Enable" or "Disable" of the widget that `to` names. May
-// rename that widget, and change the text of `to`, for the builder's version 2.5.
-void AddCallbackForDefinedAction(Widg* widg, const Value* when, const Value* to,
-                                 const Value* action);
-
-// Choose the procedure and the argument that show or hide the named target; return the widget acted
-// on, or null (and leave both alone) when there is none.
+// Choose the procedure and the argument (a new text) that show or hide the target of that GIL name,
+// which may be renamed for the builder's version 2.5. Return the widget acted on; null, and both
+// left alone, when there is none.
 Widg* FindWidgToShow(const char* target, char** procedure, char** argument);
 Widg* FindWidgToHide(const char* target, char** procedure, char** argument);
 
-// Renames the target for the builder's version 2.5; a message on standard error when it is not
-// found.
+// Renames the target for the builder's version 2.5. Writes a message on standard error when no
+// widget has that GIL name.
 void FindAndFixUpWidgetName(const char* name);
 
-// In place, where the target is the builder's version 2.5: its rule for names that end in a digit.
-// Returns `name`.
+// When the module is meant for the builder's version 2.5: applies its rule for names that end in a
+// digit (ReplaceTrailingDigit), in place. Returns `name`.
 char* FixInstanceNameForZO25(char* name);
 
 #endif

@@ -14,10 +14,8 @@
 #include "text/uil_text.h"
 #include "widget/tree.h"
 
-// A handler gets the object, its widget, and one attribute with the value's number and text: what
-// of them it needs differs from row to row.
-
-static void HandleBaseWindowAttribute(Obj* /*obj*/, Widg* widg, const Attr* attr) {
+// An empty title is written like any other.
+static void HandleWindowAttribute(Obj* /*obj*/, Widg* widg, const Attr* attr) {
   if (attr->name == LABEL) AddResource(widg, "XmNtitle", ValueText(attr->value));
 }
 
@@ -30,7 +28,7 @@ static void HandleMessageAttribute(Obj* obj, Widg* widg, const Attr* attr) {
   HandleWidgLabelAndType(widg, attr->value, label_type);
 }
 
-// The label type is not asked: a glyph button shows the file's name.
+// The label type is ignored: a glyph button shows the file's name.
 static void HandleButtonAttribute(Obj* /*obj*/, Widg* widg, const Attr* attr) {
   if (attr->name == LABEL) AddResource(widg, "XmNlabelString", ValueText(attr->value));
 }
@@ -75,8 +73,8 @@ static void HandleTextFieldAttribute(Obj* /*obj*/, Widg* widg, const Attr* attr)
   }
 }
 
-// The colour and the state come here only from a caller that does not take them for standard
-// attributes.
+// ProcessObj treats the colour and the state as standard attributes; only another caller passes
+// them here.
 static void HandleScrollingListAttribute(Obj* /*obj*/, Widg* widg, const Attr* attr) {
   const int32_t number = ValueToken(attr->value, 0);
   switch (attr->name) {
@@ -88,9 +86,7 @@ static void HandleScrollingListAttribute(Obj* /*obj*/, Widg* widg, const Attr* a
       AddResource(widg, "XmNvisibleItemCount", IntToString(number));
       break;
     case FOREGROUND_COLOR:
-      if (HasGilText(attr->value)) {
-        AddResource(widg, "XmNforeground", MakeColorVal(ValueText(attr->value)));
-      }
+      SetColor(widg, "XmNforeground", attr->value);
       break;
     case INITIAL_STATE:
       if (number == INVISIBLE && !map_all) AddResource(widg, "XmNmappedWhenManaged", "false");
@@ -99,11 +95,6 @@ static void HandleScrollingListAttribute(Obj* /*obj*/, Widg* widg, const Attr* a
     default:
       break;
   }
-}
-
-// An empty title is written like any other.
-static void HandlePopupWindowAttribute(Obj* /*obj*/, Widg* widg, const Attr* attr) {
-  if (attr->name == LABEL) AddResource(widg, "XmNtitle", ValueText(attr->value));
 }
 
 static void HandleSliderAttribute(Obj* /*obj*/, Widg* widg, const Attr* attr) {
@@ -127,23 +118,21 @@ static void HandleSliderAttribute(Obj* /*obj*/, Widg* widg, const Attr* attr) {
   }
 }
 
-using AttributeHandler = void (*)(Obj* obj, Widg* widg, const Attr* attr);
-
 struct HandlerRow {
   int32_t type;
-  AttributeHandler Handle;
+  void (*Handle)(Obj* obj, Widg* widg, const Attr* attr);
 };
 
-// Control areas, text panes, settings and groups have no attribute of this kind.
+// Control areas, text panes, settings and groups have none.
 static const HandlerRow kHandlers[] = {
-    {BASE_WINDOW, HandleBaseWindowAttribute},
+    {BASE_WINDOW, HandleWindowAttribute},
     {MESSAGE, HandleMessageAttribute},
     {BUTTON, HandleButtonAttribute},
     {CANVAS_PANE, HandleCanvasPaneAttribute},
     {MENU, HandleMenuAttribute},
     {TEXT_FIELD, HandleTextFieldAttribute},
     {SCROLLING_LIST, HandleScrollingListAttribute},
-    {POPUP_WINDOW, HandlePopupWindowAttribute},
+    {POPUP_WINDOW, HandleWindowAttribute},
     {SLIDER, HandleSliderAttribute},
     {GAUGE, HandleSliderAttribute},
 };

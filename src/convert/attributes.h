@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The attributes that belong to a type of object. Each handler turns the few that it knows into
-// resources of the object's own widget and ignores the rest: many are read later, with
-// GetAttrValue, by the type's special processing.
+// resources of the object's own widget and ignores the rest. The type's special processing reads
+// many of those later.
 #ifndef PANDREL_CONVERT_ATTRIBUTES_H
 #define PANDREL_CONVERT_ATTRIBUTES_H
 

@@ -6,14 +6,10 @@
 struct Obj;
 struct Widg;
 
-// Each returns the widget that stands for the control: itself, or what holds it and its label.
+// Each gives the control its label and returns the widget that stands for both: the control itself,
+// with the label as its next sibling, or the row-column around them.
 Widg* SpecProcSlider(Obj* obj, Widg* widg);
-Widg* SpecProcTextField(Obj* obj, Widg* widg);
-
-// A gauge is a scale that nobody can move. Returns the scale, without its label.
 Widg* SpecProcGauge(Obj* obj, Widg* scale);
-
-// Turns a text field into a text of several lines.
-Widg* MakeText(Obj* obj, Widg* widg);
+Widg* SpecProcTextField(Obj* obj, Widg* widg);
 
 #endif

@@ -10,10 +10,10 @@
 enum Answer {
   kCallback,           // the callback of the row
   kBySelectionPolicy,  // a list's callback
-  kSilent,
-  kNoMapping,        // a note that names the event
-  kUseValueChanged,  // a note on toggle buttons
-  kUseItems,         // a note on menus
+  kSilent,             // none
+  kNoMapping,          // none, and a note that names the event
+  kUseValueChanged,    // none, and a note on toggle buttons
+  kUseItems,           // none, and a note on menus
 };
 
 struct EventRow {
@@ -53,8 +53,8 @@ static const EventRow kEvents[] = {
 };
 
 // note [the policy is read under another name]
-// The resource asked for is spelt with a doubled syllable and so never set: every list answers to
-// "Notify" with its single-selection callback, whatever its policy. Programs rely on it.
+// The misspelt resource below is never set, so every list answers to "Notify" with its
+// single-selection callback, whatever its policy. Programs rely on it.
 static const char* ListCallback(const Widg* list) {
   const char* policy = GetResourceValue(list, "XmNselectionionPolicy");
   const bool multiple =
@@ -64,26 +64,19 @@ static const char* ListCallback(const Widg* list) {
 
 // Writes the note of an answer that has one.
 static void Note(Answer answer, const Widg* widg, const char* when) {
-  if (!verbose) return;
-  switch (answer) {
-    case kNoMapping:
-      std::fprintf(stderr, "Ignoring %s action on widget %s. No direct callback mapping.\n", when,
-                   widg->name);
-      break;
-    case kUseValueChanged:
-      std::fprintf(stderr,
-                   "No direct callback mapping for Notify action for toggle button %s. Try using "
-                   "a valueChangedCallback\n",
-                   widg->name);
-      break;
-    case kUseItems:
-      std::fprintf(stderr,
-                   "Ignoring Notify action on menu %s. Try activateCallback's on PushButton "
-                   "children instead\n",
-                   widg->name);
-      break;
-    default:
-      break;
+  if (answer == kNoMapping) {
+    std::fprintf(stderr, "Ignoring %s action on widget %s. No direct callback mapping.\n", when,
+                 widg->name);
+  } else if (answer == kUseValueChanged) {
+    std::fprintf(stderr,
+                 "No direct callback mapping for Notify action for toggle button %s. Try using "
+                 "a valueChangedCallback\n",
+                 widg->name);
+  } else if (answer == kUseItems) {
+    std::fprintf(stderr,
+                 "Ignoring Notify action on menu %s. Try activateCallback's on PushButton "
+                 "children instead\n",
+                 widg->name);
   }
 }
 
@@ -100,6 +93,6 @@ const char* MapActionToCallback(const Widg* widg, const char* when) {
   const EventRow* row = FindRow(widg, when);
   if (!row) return nullptr;
   if (row->answer == kBySelectionPolicy) return ListCallback(widg);
-  Note(row->answer, widg, when);
+  if (verbose) Note(row->answer, widg, when);
   return row->callback_name;
 }

@@ -5,8 +5,8 @@
 
 struct Widg;
 
-// The callback for the event, which is compared as it stands, on a widget of this class; null when
-// there is none. With `verbose` set, what users may miss is noted on standard error.
+// The callback for the event on a widget of this class; null when there is none. Case counts in
+// `when`. With `verbose` set, a note on standard error names an event that users may miss.
 const char* MapActionToCallback(const Widg* widg, const char* when);
 
 #endif

@@ -20,8 +20,8 @@ static bool IsWrapper(const Widg* widg) {
          IsClass(widg, "XmScrolledWindow");
 }
 
-// The outermost widget that was made for the member's sake: the button's menu bar, the list's
-// frame, the row-column around a control and its label.
+// The outermost widget that was made for the member: the menu bar of a button, the frame of a list,
+// the row-column around a control and its label.
 static Widg* ClimbOutOfWrappers(Widg* member) {
   Climb out_of_containers;
   while (out_of_containers.IsNew(member)) {
@@ -38,7 +38,7 @@ static Widg* ClimbOutOfWrappers(Widg* member) {
   return member;
 }
 
-// The position becomes relative to the group's own.
+// Makes the member's position relative to the group's.
 static void MoveIntoGroup(Widg* member, Widg* group) {
   top_widget = RemoveWidg(top_widget, member);
   member->next = nullptr;
@@ -49,14 +49,12 @@ static void MoveIntoGroup(Widg* member, Widg* group) {
 Widg* SpecProcGroup(Obj* obj, Widg* group) {
   if (ignore_groups) return group;
   if (group->child) Error("Group has non-null children");
-  Value* members = nullptr;
-  GetAttrValue(obj, MEMBERS, &members, 1);
 
-  // The first member found decides, before anything moves, where the group goes and whether it
-  // lives.
+  // The first member found decides, before anything moves, where the group goes and whether it is
+  // kept.
   Widg* group_parent = nullptr;
   bool found_any = false;
-  for (const Value* name = members; name; name = name->next) {
+  for (const Value* name = TakeValue(obj, MEMBERS); name; name = name->next) {
     Widg* member = FindWidg(top_widget, ValueText(name));
     if (!member) {
       std::printf("Cannot find group member: %s, ignoring...\n", ValueText(name));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Groups: a group names other objects, which in Motif become the children of one bulletin board.
+// Groups. A group names other objects; in Motif they become the children of one bulletin board.
 #ifndef PANDREL_CONVERT_GROUPS_H
 #define PANDREL_CONVERT_GROUPS_H
 
@@ -7,12 +7,13 @@ struct Obj;
 struct Widg;
 
 // Moves the widgets of the group's members, with all that was made around them, into the group and
-// attaches it where the first of them was. Members are looked for in what is converted and linked
-// already; one that is missing is reported on standard output.
+// attaches the group where the first of them was. Looks for members among the widgets that are
+// converted and linked by now, and reports each missing one on standard output. A group that
+// already has children ends the run.
 //
-// Returns the group, or null when it is dropped: when no member is found, or the first one found
-// has no parent, nothing is moved and the group must be attached nowhere. With groups ignored
-// nothing is moved either, but the group is returned.
+// Returns the group. Returns null, with nothing moved, when no member is found or the first one
+// found has no parent: the group must then be attached nowhere. When groups are ignored, it returns
+// the group and moves nothing.
 Widg* SpecProcGroup(Obj* obj, Widg* group);
 
 #endif

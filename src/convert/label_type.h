@@ -6,8 +6,8 @@
 struct Value;
 struct Widg;
 
-// Makes the widget show the label: a text when the type is the token STRING (or there is none),
-// else the glyph file of that name, which may be converted on the spot.
+// Makes the widget show the label. It is a text when the type is the token STRING or null, else the
+// name of a glyph file, which this may convert.
 void HandleWidgLabelAndType(Widg* widg, const Value* label, const Value* label_type);
 
 #endif

@@ -6,6 +6,7 @@
 #include <cstring>
 
 #include "convert/companions.h"
+#include "convert/object_label.h"
 #include "flags/flags.h"
 #include "gil/object.h"
 #include "gil/tokens.h"
@@ -15,14 +16,13 @@
 #include "osi/owned_text.h"
 #include "osi/strings.h"
 #include "text/uil_text.h"
-#include "widget/links.h"
 #include "widget/resources.h"
 #include "widget/tree.h"
 
 static constexpr std::size_t kBufferStep = 1024;
 static constexpr std::size_t kBufferReserve = 256;
 
-// Kept at its grown value: the next list of the file is likely to be as long.
+// Keeps its grown value, since the next list of the file is likely to be as long.
 static std::size_t buffer_size = kBufferStep;
 
 static const char kNoMemory[] = "Out of memory in pandrel making string table\n";
@@ -77,11 +77,9 @@ int MakeStringTable(const Value* values, char** tableOut) {
 void ResetStringTable() { buffer_size = kBufferStep; }
 
 static void SetItems(Obj* obj, Widg* list) {
-  Value* values = nullptr;
-  Value* glyphs = nullptr;
-  GetAttrValue(obj, INITIAL_LIST_VALUES, &values, 1);
-  GetAttrValue(obj, INITIAL_LIST_GLYPHS, &glyphs, 1);
-  if (glyphs && *ValueText(glyphs) && verbose) {
+  const Value* values = TakeValue(obj, INITIAL_LIST_VALUES);
+  const Value* glyphs = TakeValue(obj, INITIAL_LIST_GLYPHS);
+  if (*ValueText(glyphs) && verbose) {
     std::printf("ScrollingList %s: Motif lists do not support glyphs\n", list->gil_name);
   }
   if (!values) return;
@@ -96,10 +94,8 @@ static void SetItems(Obj* obj, Widg* list) {
 static Widg* WrapInScrolledWindow(Widg* list) {
   Widg* sw = MakeNamedAfter("XmScrolledWindow", list, "_sw");
   AddResource(sw, "XmNscrollBarDisplayPolicy", "XmSTATIC");
-  MovePositionResources(list, sw);
+  WrapIn(sw, list, nullptr);
   CopySizeResources(list, sw);
-  TakePlace(sw, list);
-  SetChildren(sw, list);
   list->wrapped = 1;
   return sw;
 }
@@ -127,11 +123,8 @@ static Widg* AddTitle(const Widg* list, Widg* sw, const Value* text) {
   CopyGilGeometry(list, container);
   Widg* title = MakeNamedAfter("XmLabel", list, "_title");
   AddResource(title, "XmNlabelString", ValueText(text));
-  MovePositionResources(sw, container);
+  WrapIn(container, sw, title);
   CopySizeResources(sw, container);
-  TakePlace(container, sw);
-  title->next = sw;
-  SetChildren(container, title);
   sw->wrapped = 1;
   (motif12 ? ArrangeInFrame : ArrangeInForm)(title, sw);
   return container;
@@ -140,7 +133,6 @@ static Widg* AddTitle(const Widg* list, Widg* sw, const Value* text) {
 Widg* SpecProcScrollingList(Obj* obj, Widg* list) {
   Widg* sw = WrapInScrolledWindow(list);
   SetItems(obj, list);
-  Value* title = nullptr;
-  if (!GetAttrValue(obj, TITLE, &title, 1) || !HasGilText(title)) return sw;
-  return AddTitle(list, sw, title);
+  const Value* title = TakeValue(obj, TITLE);
+  return SpecProcObjLabel(obj, HasGilText(title) ? AddTitle(list, sw, title) : sw, 0);
 }

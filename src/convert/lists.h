@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Scrolling lists: the list goes into a scrolled window and, when it has a title, that into a frame
-// or a form beside the title.
+// Scrolling lists: the list goes into a scrolled window. When it has a title, both go into a frame
+// or a form.
 #ifndef PANDREL_CONVERT_LISTS_H
 #define PANDREL_CONVERT_LISTS_H
 
@@ -8,16 +8,17 @@ struct Obj;
 struct Value;
 struct Widg;
 
-// Returns the scrolled window, or the container around it and the title.
+// Returns the scrolled window, or the container around it and the title. The label, if the object
+// has one, becomes its next sibling.
 Widg* SpecProcScrollingList(Obj* obj, Widg* list);
 
-// Builds the UIL text of a string table in *tableOut (OsiMalloc memory, the caller's) from the strings in the order in which the
-// list is held, and returns how many there are. An empty list, and a first buffer that cannot be
-// had, are reported on standard error and return 0; a buffer that cannot grow ends the run with
-// status 0.
+// Stores the UIL text of a string table in *tableOut (OsiMalloc memory, the caller's), its strings
+// in the order in which the list is held, and returns how many there are. Reports an empty list,
+// and exhausted memory at the start, on standard error and returns 0; a buffer that cannot grow
+// ends the run with status 0.
 int MakeStringTable(const Value* values, char** tableOut);
 
-// Forgets how far the working buffer of MakeStringTable grew.
+// Sets the size of MakeStringTable's working buffer back to what it is at the start of a run.
 void ResetStringTable();
 
 #endif

@@ -12,43 +12,22 @@
 #include "osi/fatal.h"
 #include "widget/copy.h"
 #include "widget/links.h"
-#include "widget/resources.h"
 #include "widget/search.h"
 #include "widget/tree.h"
 
-// The items' lists, walked in step. The names of sub-menus stand in file order and all other lists
-// in reverse, and so they are walked.
-struct ItemLists {
-  Value* label = nullptr;
-  Value* label_type = nullptr;
-  Value* state = nullptr;
-  Value* selected = nullptr;
-  Value* color = nullptr;
-  Value* submenu = nullptr;
-};
-
-static void TakeItems(Obj* obj, ItemLists* lists) {
-  if (!GetAttrValue(obj, MENU_ITEM_LABELS, &lists->label, 1)) {
-    Error("Menu doesn't have any labels");
-  }
-  GetAttrValue(obj, MENU_ITEM_LABEL_TYPES, &lists->label_type, 1);
-  GetAttrValue(obj, MENU_ITEM_STATES, &lists->state, 1);
-  GetAttrValue(obj, INITIAL_SELECTIONS, &lists->selected, 1);
-  GetAttrValue(obj, MENU_ITEM_COLORS, &lists->color, 1);
-  GetAttrValue(obj, MENU_ITEM_MENUS, &lists->submenu, 1);
+static Item TakeItems(Obj* obj) {
+  Item items;
+  if (!GetAttrValue(obj, MENU_ITEM_LABELS, &items.label, 1)) Error("Menu doesn't have any labels");
+  items.label_type = TakeValue(obj, MENU_ITEM_LABEL_TYPES);
+  items.state = TakeValue(obj, MENU_ITEM_STATES);
+  items.selected = TakeValue(obj, INITIAL_SELECTIONS);
+  items.color = TakeValue(obj, MENU_ITEM_COLORS);
+  items.submenu = TakeValue(obj, MENU_ITEM_MENUS);
+  return items;
 }
 
-static void StepItems(ItemLists* lists) {
-  Step(&lists->label);
-  Step(&lists->label_type);
-  Step(&lists->state);
-  Step(&lists->selected);
-  Step(&lists->color);
-  Step(&lists->submenu);
-}
-
-// The menu as a user of the class `wanted` gets it: the widget itself, or a copy when one of the
-// class `other` has claimed it.
+// What a user of the menu gets who needs it as class `wanted`: the widget itself, or a copy when it
+// already has the class `other`.
 static Widg* ClaimMenu(Widg* menu, const char* wanted, const char* other) {
   if (IsClass(menu, other)) menu = CopyWidgTree(menu);
   menu->class_name = wanted;
@@ -69,7 +48,7 @@ static void SetSubMenu(Widg* item, const Value* submenu) {
   item->class_name = "XmCascadeButton";
 }
 
-static Widg* MakeItem(const Widg* menu, int32_t menu_type, const ItemLists& item) {
+static Widg* MakeItem(const Widg* menu, int32_t menu_type, const Item& item) {
   const bool toggles = menu_type == EXCLUSIVE || menu_type == NONEXCLUSIVE;
   if (menu_type != COMMAND && !toggles) {
     std::fprintf(stderr, "***Unknown menu type: %d\n", static_cast<int>(menu_type));
@@ -80,38 +59,28 @@ static Widg* MakeItem(const Widg* menu, int32_t menu_type, const ItemLists& item
   if (ValueToken(item.state, ACTIVE) == INACTIVE) AddResource(widg, "XmNsensitive", "false");
   if (toggles && ValueToken(item.selected, NIL) == T) AddResource(widg, "XmNset", "true");
   SetSubMenu(widg, item.submenu);
-  if (HasGilText(item.color)) {
-    AddResource(widg, "XmNforeground", MakeColorVal(ValueText(item.color)));
-  }
+  SetColor(widg, "XmNforeground", item.color);
   return widg;
 }
 
 Widg* SpecProcMenu(Obj* obj, Widg* widg) {
-  ItemLists items;
-  TakeItems(obj, &items);
-  Value* type_value = nullptr;
-  if (!GetAttrValue(obj, MENU_TYPE, &type_value, 1)) Error("Menu doesn't have a type");
+  const Item items = TakeItems(obj);
+  const Value* type_value = TakeValue(obj, MENU_TYPE);
+  if (!type_value) Error("Menu doesn't have a type");
   const int32_t menu_type = ValueToken(type_value, COMMAND);
   if (menu_type == EXCLUSIVE) AddResource(widg, "XmNradioBehavior", "true");
-
-  // Put in front of each other, items of a reversed list come out in file order.
-  Widg* children = nullptr;
-  for (; items.label; StepItems(&items)) {
-    Widg* item = MakeItem(widg, menu_type, items);
-    if (!item) continue;
-    item->next = children;
-    children = item;
-  }
-  SetChildren(widg, children);
+  MakeItems(widg, items, [&](const Item& item) { return MakeItem(widg, menu_type, item); });
   return widg;
 }
 
-Widg* MakeMenuButton(Obj* /*obj*/, Widg* button, const Value* menuValue) {
-  // Made even when the menu turns out to be missing, and its name stays taken.
+Widg* MakeMenuButton(Obj* obj, Widg* button) {
+  const Value* menu_name = TakeValue(obj, MENU);
+  if (!IsStringValue(menu_name)) return button;
+  // Make the bar even when there is no menu: the numbers of later names depend on it.
   char bar_name[] = "menubar";
   Widg* bar = MakeWidg("XmMenuBar", bar_name);
   CopyGilGeometry(button, bar);
-  const char* name = ValueText(menuValue);
+  const char* name = ValueText(menu_name);
   Widg* menu = FindWidg(top_widget, name);
   if (!menu) {
     std::printf("Cannot find menu %s, ignoring...\n", name);
@@ -119,16 +88,14 @@ Widg* MakeMenuButton(Obj* /*obj*/, Widg* button, const Value* menuValue) {
     return button;
   }
   SetChildren(button, ClaimPulldown(menu));
-  TakePlace(bar, button);
-  SetChildren(bar, button);
-  MovePositionResources(button, bar);
+  WrapIn(bar, button, nullptr);
   button->class_name = "XmCascadeButton";
   return bar;
 }
 
 void AttachPopupMenu(Obj* obj, Widg* widg) {
-  Value* value = nullptr;
-  if (!GetAttrValue(obj, MENU, &value, 1) || !IsStringValue(value)) return;
+  const Value* value = TakeValue(obj, MENU);
+  if (!IsStringValue(value)) return;
   const char* name = ValueText(value);
   Widg* menu = FindWidg(top_widget, name);
   if (!menu) {

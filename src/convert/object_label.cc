@@ -7,14 +7,12 @@
 #include "gil/value.h"
 #include "osi/wrap.h"
 #include "text/uil_text.h"
-#include "widget/links.h"
-#include "widget/resources.h"
 #include "widget/tree.h"
 
-// Room that a row-column needs between a label and the control below it.
+// The room, in pixels, that a row-column needs between a label and the control below it.
 static constexpr int32_t kVerticalSpacing = 3;
 
-// The width of a vertical scale: its slider width is its height.
+// The width, in pixels, of a vertical scale, whose slider width is its height.
 static constexpr int32_t kVerticalScaleWidth = 20;
 
 static Widg* MakeCompanion(const char* class_name, const Widg* widg, const char* suffix) {
@@ -23,17 +21,12 @@ static Widg* MakeCompanion(const char* class_name, const Widg* widg, const char*
 
 static Widg* WrapInRowColumn(Obj* obj, Widg* label, Widg* widg) {
   Widg* rc = MakeCompanion("XmRowColumn", widg, "_rc");
-  Value* layout = nullptr;
-  GetAttrValue(obj, LAYOUT_TYPE, &layout, 0);
-  const bool vertical = ValueToken(layout, HORIZONTAL) == VERTICAL;
+  const bool vertical = ValueToken(PeekValue(obj, LAYOUT_TYPE), HORIZONTAL) == VERTICAL;
   rc->extra_height = widg->extra_height + (vertical ? kVerticalSpacing : 0);
   AddResource(rc, "XmNorientation", vertical ? "XmVERTICAL" : "XmHORIZONTAL");
   rc->height = widg->height;
   widg->wrapped = 1;
-  TakePlace(rc, widg);
-  label->next = widg;
-  SetChildren(rc, label);
-  MovePositionResources(widg, rc);
+  WrapIn(rc, widg, label);
   return rc;
 }
 
@@ -42,7 +35,7 @@ static void SetFromAttr(Obj* obj, int32_t name, Widg* widg, const char* resource
   if (GetAttrValueString(obj, name, &text, 0)) AddResource(widg, resource, text);
 }
 
-// The position of the object is the label's; the value's position is the control's.
+// The object's position is the label's; the position of its value is the control's.
 static void PlaceBeside(Obj* obj, Widg* label, Widg* widg) {
   SetFromAttr(obj, X, label, "XmNx");
   SetFromAttr(obj, Y, label, "XmNy");
@@ -50,26 +43,23 @@ static void PlaceBeside(Obj* obj, Widg* label, Widg* widg) {
   SetFromAttr(obj, VALUE_X, widg, "XmNx");
 }
 
-// The width that is left for the control behind its label.
+// Sets the width that the label leaves to the control.
 static void SetControlWidth(Obj* obj, Widg* widg) {
-  Value* value = nullptr;
-  if (!GetAttrValue(obj, WIDTH, &value, 0)) return;
-  int32_t width = ValueToken(value, 0);
+  const Value* object_width = PeekValue(obj, WIDTH);
+  if (!object_width) return;
+  int32_t width = object_width->ival;
   char* value_x = nullptr;
   if (obj->type != SCROLLING_LIST && GetAttrValueString(obj, VALUE_X, &value_x, 0)) {
     width = WrapSub(width, StringToInt(value_x));
   }
-  Value* slider_width = nullptr;
-  Value* orientation = nullptr;
-  if ((obj->type == GAUGE || obj->type == SLIDER) &&
-      GetAttrValue(obj, SLIDER_WIDTH, &slider_width, 1) &&
-      GetAttrValue(obj, ORIENTATION, &orientation, 0)) {
-    if (ValueToken(orientation, 0) == HORIZONTAL) {
-      width = ValueToken(slider_width, 0);
-    } else {
-      AddResource(widg, "XmNheight", IntToString(ValueToken(slider_width, 0)));
-      width = kVerticalScaleWidth;
-    }
+  const bool is_scale = obj->type == GAUGE || obj->type == SLIDER;
+  const Value* slider_width = is_scale ? TakeValue(obj, SLIDER_WIDTH) : nullptr;
+  const Value* orientation = PeekValue(obj, ORIENTATION);
+  if (slider_width && orientation && orientation->ival == HORIZONTAL) {
+    width = slider_width->ival;
+  } else if (slider_width && orientation) {
+    AddResource(widg, "XmNheight", IntToString(slider_width->ival));
+    width = kVerticalScaleWidth;
   }
   AddResource(widg, "XmNwidth", IntToString(width));
 }
@@ -79,11 +69,10 @@ static void CopyIfSet(const Widg* from, const char* name, Widg* to) {
 }
 
 Widg* SpecProcObjLabel(Obj* obj, Widg* widg, int useRowColumn) {
-  // Made even when the object turns out to have no label, and its name stays taken: the numbers of
-  // later names depend on it.
+  // Make the label even when the object has none: the numbers of later names depend on it.
   Widg* label = MakeCompanion("XmLabel", widg, "_label");
-  Value* text = nullptr;
-  if (!GetAttrValue(obj, LABEL, &text, 1) || !HasGilText(text)) return widg;
+  const Value* text = TakeValue(obj, LABEL);
+  if (!HasGilText(text)) return widg;
 
   AddResource(label, "XmNlabelString", ValueText(text));
   Widg* result = widg;

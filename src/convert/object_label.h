@@ -6,10 +6,10 @@
 struct Obj;
 struct Widg;
 
-// Gives the control its label, if the object has one that is not empty, and the width that is left.
-// With `useRowColumn` the label and the control move into a row-column, which is returned and
-// stands in the control's place; else the label becomes the control's next sibling and the control
-// is returned.
+// Gives the control its label, if the object has one that is not empty, and the width that the
+// label leaves. With `useRowColumn` both move into a row-column, which takes the control's place
+// and is returned. Otherwise the label becomes the control's next sibling, and the control is
+// returned.
 Widg* SpecProcObjLabel(Obj* obj, Widg* widg, int useRowColumn);
 
 #endif

@@ -8,7 +8,6 @@
 #include "convert/groups.h"
 #include "convert/lists.h"
 #include "convert/menus.h"
-#include "convert/object_label.h"
 #include "convert/settings.h"
 #include "convert/std_attributes.h"
 #include "convert/windows.h"
@@ -46,21 +45,12 @@ static const ClassRow kClasses[] = {
 };
 
 const char* GilObjToMotifClassName(Obj* obj) {
-  Value* menu = nullptr;
-  if (obj->type == BUTTON && GetAttrValue(obj, MENU, &menu, 0) && IsStringValue(menu)) {
-    return "XmCascadeButton";
-  }
+  if (obj->type == BUTTON && IsStringValue(PeekValue(obj, MENU))) return "XmCascadeButton";
   if (obj->type == GROUP && ignore_groups) return "";
   for (const ClassRow& row : kClasses) {
     if (row.type == obj->type) return row.class_name;
   }
   return "";
-}
-
-static Widg* SpecProcButton(Obj* obj, Widg* widg) {
-  Value* menu = nullptr;
-  if (!GetAttrValue(obj, MENU, &menu, 1) || !IsStringValue(menu)) return widg;
-  return MakeMenuButton(obj, widg, menu);
 }
 
 static Widg* SpecProcBoardOfGroup(Obj* obj, Widg* widg) {
@@ -72,14 +62,6 @@ static Widg* SpecProcBoardOfGroup(Obj* obj, Widg* widg) {
 static Widg* SpecProcControlArea(Obj* /*obj*/, Widg* widg) {
   SetTightBoard(widg);
   return widg;
-}
-
-static Widg* SpecProcLabelledGauge(Obj* obj, Widg* widg) {
-  return SpecProcObjLabel(obj, SpecProcGauge(obj, widg), 0);
-}
-
-static Widg* SpecProcLabelledList(Obj* obj, Widg* widg) {
-  return SpecProcObjLabel(obj, SpecProcScrollingList(obj, widg), 0);
 }
 
 struct ExpansionRow {
@@ -94,22 +76,24 @@ static const ExpansionRow kExpansions[] = {
     {TEXT_FIELD, SpecProcTextField},
     {SETTING, SpecProcSetting},
     {CANVAS_PANE, SpecProcCanvasPane},
-    {BUTTON, SpecProcButton},
+    {BUTTON, MakeMenuButton},
     {MENU, SpecProcMenu},
-    {GAUGE, SpecProcLabelledGauge},
+    {GAUGE, SpecProcGauge},
     {CONTROL_AREA, SpecProcControlArea},
-    {SCROLLING_LIST, SpecProcLabelledList},
+    {SCROLLING_LIST, SpecProcScrollingList},
     {POPUP_WINDOW, SpecProcPopupWindow},
     {GROUP, SpecProcBoardOfGroup},
 };
 
-Widg* SpecialProcessing(Obj* obj, Widg* widg) {
+// Expands the widget of the object into what Motif needs for it; returns the widget that now stands
+// for the object, null for a dropped group.
+static Widg* SpecialProcessing(Obj* obj, Widg* widg) {
   Widg* result = widg;
   for (const ExpansionRow& row : kExpansions) {
     if (row.type == obj->type) result = row.Expand(obj, widg);
   }
-  // A button's menu is pulled down, any other's pops up. A dropped group claims its menu all the
-  // same.
+  // A button's menu is pulled down, any other's pops up, even that of a dropped group: it claims
+  // the menu all the same.
   if (obj->type != BUTTON) AttachPopupMenu(obj, result ? result : widg);
   return result;
 }
@@ -120,8 +104,8 @@ static Widg* BeginObj(Obj* obj) {
   if (!GetAttrValueString(obj, NAME, &name, 1)) Error("Obj does not have a name");
   Widg* widg = MakeWidg(GilObjToMotifClassName(obj), name);
   widg->actions = obj->actions;
-  // Converters may consume attributes of the object meanwhile: the walk goes on from where it
-  // stands.
+  // Converters may take attributes off the object meanwhile; a record that was taken keeps its
+  // `next`, so the walk goes on.
   for (const Attr* attr = obj->attrs; attr; attr = attr->next) {
     if (IsStdAttribute(attr)) {
       ProcessStdAttributes(obj, widg, attr);
@@ -137,8 +121,8 @@ static Widg* EndObj(Obj* obj, Widg* widg) {
   return SpecialProcessing(obj, widg);
 }
 
-// Owners may nest as deeply as the file likes, so the objects that wait for their children are on a
-// stack of their own.
+// Owners nest as deeply as the file likes. The objects that wait for their children are therefore
+// in a vector, not on the processor's stack.
 Widg* ProcessObj(Obj* obj) {
   struct Frame {
     Obj* obj;

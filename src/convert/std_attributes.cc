@@ -37,11 +37,11 @@ char* MakeWidgetAttachment(const Widg* widg) {
   return JoinTexts(widg->class_name, " ", widg->name, "Out of memory in MakeWidgetAttachment");
 }
 
-static void SetColor(Widg* widg, const char* resource, const Value* color) {
+void SetColor(Widg* widg, const char* resource, const Value* color) {
   if (HasGilText(color)) AddResource(widg, resource, MakeColorVal(ValueText(color)));
 }
 
-// Messages size themselves for Motif's fonts; the layout still knows the size from the fields.
+// A message sizes itself for Motif's font. The layout still knows its size from the fields.
 static void SetSize(const Obj* obj, Widg* widg, const char* resource, int32_t size) {
   if (obj->type == MESSAGE && reposition) return;
   AddResource(widg, resource, IntToString(size));

@@ -6,19 +6,23 @@
 
 struct Attr;
 struct Obj;
+struct Value;
 struct Widg;
 
 // 1 for one of the nine, else 0.
 int IsStdAttribute(const Attr* attr);
 
-// Converts one of the nine to a resource, a callback or a geometry field of the widget. Any other
-// attribute ends the run.
+// Converts one of the nine to a resource, a callback or a geometry field of the widget. Ends the
+// run for any other attribute.
 void ProcessStdAttributes(const Obj* obj, Widg* widg, const Attr* attr);
 
-// The UIL colour for a colour string as the file has it, quotes included.
+// A new text: the UIL colour for a colour string as the file has it, quotes included.
 char* MakeColorVal(const char* text);
 
-// The UIL form of a reference to a widget: its class and its name.
+// Sets the resource to the colour; does nothing for a null or an empty one.
+void SetColor(Widg* widg, const char* resource, const Value* color);
+
+// A new text: the UIL form of a reference to a widget, its class and its name.
 char* MakeWidgetAttachment(const Widg* widg);
 
 #endif

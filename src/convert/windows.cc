@@ -8,10 +8,11 @@
 #include "gil/value.h"
 #include "text/uil_text.h"
 #include "widget/callbacks.h"
-#include "widget/links.h"
 #include "widget/nesting.h"
 #include "widget/resources.h"
 #include "widget/tree.h"
+
+static bool HasOneChild(const Widg* widg) { return widg->child && !widg->child->next; }
 
 Widg* SpecProcBaseWindow(Obj* /*obj*/, Widg* shell) {
   char board_name[] = "bboard";
@@ -24,24 +25,20 @@ Widg* SpecProcPopupWindow(Obj* obj, Widg* shell) {
   if (!HasOneChild(shell)) {
     InsertWidgBelow(shell, "XmBulletinBoard", MergeStrings(shell->gil_name, "_bboard"));
   }
-  Value* state = nullptr;
-  if (GetAttrValue(obj, INITIAL_STATE, &state, 1) && ValueToken(state, 0) == INVISIBLE) {
+  if (ValueToken(TakeValue(obj, INITIAL_STATE), 0) == INVISIBLE) {
     RemoveResource(shell, "XmNmappedWhenManaged");
-    // A dialog is shown by managing what is in it.
+    // Managing what is in a dialog shows it.
     if (!map_all) shell->child->managed = 0;
   }
   MoveCallback(shell, shell->child, "XmNhelpCallback");
   return shell;
 }
 
-// Scroll bars are there when the object says something of both and yes to one of them; the vertical
-// attribute is not even looked at without the horizontal one.
+// The canvas has scroll bars when the object has both attributes and at least one of them is true.
 static bool TakeScrollbars(Obj* obj) {
-  Value* horizontal = nullptr;
-  Value* vertical = nullptr;
-  if (!GetAttrValue(obj, HORIZONTAL_SCROLLBAR, &horizontal, 1)) return false;
-  if (!GetAttrValue(obj, VERTICAL_SCROLLBAR, &vertical, 1)) return false;
-  return ValueToken(horizontal, NIL) == T || ValueToken(vertical, NIL) == T;
+  const Value* horizontal = TakeValue(obj, HORIZONTAL_SCROLLBAR);
+  const Value* vertical = horizontal ? TakeValue(obj, VERTICAL_SCROLLBAR) : nullptr;
+  return vertical && (ValueToken(horizontal, NIL) == T || ValueToken(vertical, NIL) == T);
 }
 
 Widg* SpecProcCanvasPane(Obj* obj, Widg* canvas) {
@@ -50,10 +47,8 @@ Widg* SpecProcCanvasPane(Obj* obj, Widg* canvas) {
   Widg* sw = MakeNamedAfter("XmScrolledWindow", canvas, "_sw");
   canvas->wrapped = 1;
   CopyGilGeometry(canvas, sw);
-  TakePlace(sw, canvas);
-  SetChildren(sw, canvas);
   CopySizeResources(canvas, sw);
-  MovePositionResources(canvas, sw);
+  WrapIn(sw, canvas, nullptr);
   AddResource(sw, "XmNscrollingPolicy", "XmAUTOMATIC");
   AddResource(sw, "XmNscrollBarDisplayPolicy", "XmSTATIC");
   return sw;

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
-// The special processing of what holds controls: windows, popup windows, canvases, control areas.
+// The special processing of windows, popup windows and canvases.
 #ifndef PANDREL_CONVERT_WINDOWS_H
 #define PANDREL_CONVERT_WINDOWS_H
 
 struct Obj;
 struct Widg;
 
-// A shell has one child: gets a work area between itself and its children unless there is just one.
+// A shell has one child. These put a board between the shell and its children unless it has exactly
+// one child, and return the shell.
 Widg* SpecProcBaseWindow(Obj* obj, Widg* shell);
 Widg* SpecProcPopupWindow(Obj* obj, Widg* shell);
 

@@ -10,8 +10,7 @@
 #include "osi/strings.h"
 #include "text/uil_text.h"
 
-// One option word and what it does to a flag. Words are compared whole and none is a part of
-// another's meaning, so the order of the rows is only that of the documentation.
+// What an option word does to a flag. The order of the rows does not matter.
 struct OptionRow {
   const char* word;
   int32_t* flag;
@@ -69,7 +68,7 @@ static bool SetFlag(const char* word) {
 }
 
 // Makes the directory end in "/". For "-D" alone the character before the end is the "D" itself, so
-// that the root directory results.
+// the result is the root directory.
 static void SetIconDirectory(const char* argument) {
   icon_dir_name = argument + 2;
   if (argument[std::strlen(argument) - 1] != '/') icon_dir_name = MergeStrings(icon_dir_name, "/");
@@ -90,8 +89,8 @@ static void ParseArgument(const char* argument) {
 }
 
 // note [options are read backwards]
-// The arguments are walked from the last to the first, so that of two that set the same flag the
-// one written first has the last word:
+// The arguments are handled from the last to the first, so of two that set the same flag the one
+// written first wins:
 //   -quiet -verbose     stays quiet
 //   a.uil b.uil         writes a.uil
 void ParseCommandLine(int argc, char** argv) {

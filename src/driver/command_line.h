@@ -4,8 +4,8 @@
 #define PANDREL_DRIVER_COMMAND_LINE_H
 
 // Sets the flags from argv[1] to argv[argc-1]; texts are kept by pointer, not copied. "-help"
-// writes the usage text on standard output and ends the run with status 0; an unknown option is
-// reported there and skipped. Nothing fails.
+// writes the usage text on standard output and ends the run with status 0. Reports an unknown
+// option on standard output and skips it. Cannot fail.
 void ParseCommandLine(int argc, char** argv);
 
 #endif

@@ -4,7 +4,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-
 #include "convert/actions.h"
 #include "convert/objects.h"
 #include "flags/flags.h"
@@ -19,7 +18,7 @@
 #include "widget/links.h"
 #include "widget/tree.h"
 
-// Whether the name is that of a GIL file, which somebody would lose for want of a "<".
+// Whether the file is a GIL file, which a user who forgot the "<" would lose.
 static bool IsGilFile(const char* name) {
   struct stat status;
   if (stat(name, &status) != 0 || !S_ISREG(status.st_mode)) return false;
@@ -101,7 +100,7 @@ static void ProcessInterface(const char* name) {
   }
   if (!std::freopen(name, "r", stdin)) {
     std::printf("Error opening project file %s\n", name);
-    // The stream is closed now; what it yields must be nothing, not a fault.
+    // The stream is closed now. Make reading it yield nothing.
     if (!std::freopen("/dev/null", "r", stdin)) OsiExit(-1);
   }
   if (verbose) std::printf("Opening project subfile: %s\n", name);
@@ -115,7 +114,7 @@ void ProcessProject() {
     if (!GetAttrValue(project, INTERFACES, &interfaces, 0)) {
       std::fputs("pandrel: Project without any interfaces\n", stdout);
     }
-    // An interface that is a project itself sets it again, for a further pass.
+    // An interface that is a project itself sets it again, for another round.
     project = nullptr;
     for (const Value* name = interfaces; name; name = name->next) {
       ProcessInterface(ValueText(name));

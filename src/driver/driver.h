@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The order of the whole conversion.
+// The stages of the conversion, as the main programs call them.
 #ifndef PANDREL_DRIVER_DRIVER_H
 #define PANDREL_DRIVER_DRIVER_H
 
@@ -8,8 +8,8 @@
 struct Obj;
 struct Widg;
 
-// Opens the file that the options name, else gives standard output. A GIL file, which would be
-// emptied, and a file that cannot be opened end the run. Called before any input is read, so that a bad name fails early.
+// Opens the file that the options name for writing; without one, returns standard output. Ends the
+// run when the file is a GIL file, which it would empty, and when it cannot be opened.
 std::FILE* OpenOutput();
 
 // Converts the GIL file on standard input and stores the first of its top-level widgets in
@@ -17,8 +17,8 @@ std::FILE* OpenOutput();
 // that widget.
 Widg* ProcessGILFile(Widg** listLink);
 
-// While the last file read was a project, reopens standard input on each of its interface files and
-// appends what they hold to the top level.
+// If the last file read was a project: converts each of its interface files, through standard
+// input, and appends their widgets to the top level; then does so for projects among them.
 void ProcessProject();
 
 // Turns the actions of all widgets into callbacks.
@@ -35,8 +35,8 @@ Obj* ParseGILFile();
 // head.
 Obj* PutMenusFirst(Obj* objects);
 
-// Converts each object of a top-level list and links the widgets at *listLink; returns that. What
-// stands for a group is not linked: a group attaches itself.
+// Converts each object of a top-level list and links the widgets at *listLink; returns *listLink.
+// Does not link groups, which attach themselves.
 Widg* ConvertObjHierToWidgHier(Obj* objects, Widg** listLink);
 
 #endif

@@ -16,7 +16,7 @@ int main(int argc, char** argv) {
   HoldStandardStreams();
   ParseCommandLine(argc, argv);                // arguments to option flags
   std::FILE* output = OpenOutput();            // before any input, so that a bad name fails early
-  TellIfInputIsTerminal(kNotice);              // nobody should think that we hang
+  TellIfInputIsTerminal(kNotice);              // so that nobody takes the wait for a hang
   ProcessGILFile(&top_widget);                 // standard input to top-level widgets
   ProcessProject();                            // and those of a project's interface files
   ProcessActions();                            // connections to callbacks

@@ -22,5 +22,5 @@ void ResetSession() {
   ResetNameTable();
   ResetStrings();
   ResetStringTable();
-  ArenaReset();  // last: the others still point at what it frees
+  ArenaReset();  // last, since the others point at what it frees
 }

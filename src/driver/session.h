@@ -4,8 +4,8 @@
 #ifndef PANDREL_DRIVER_SESSION_H
 #define PANDREL_DRIVER_SESSION_H
 
-// Makes everything as it was when the process started: flags, reader, tree, names, procedures,
-// serial numbers. Every record and text of the conversion before is freed.
+// Sets all state back to what it was when the process started: flags, reader, tree, names,
+// procedures, serial numbers. Frees every record and text of the conversion before.
 void ResetSession();
 
 #endif

@@ -12,7 +12,7 @@
 void HoldStandardStreams() {
   for (int fd = STDIN_FILENO; fd <= STDERR_FILENO; ++fd) {
     if (fcntl(fd, F_GETFD) != -1) continue;
-    // The wrong way round on purpose, so that using the stream fails as it would have.
+    // Open input for writing and output for reading, so that using the stream fails.
     const int mode = fd == STDIN_FILENO ? O_WRONLY : O_RDONLY;
     if (open("/dev/null", mode) != fd) OsiExit(-1);
   }

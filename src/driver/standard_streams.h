@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
-// What a program owes the streams that it was started with.
+// The standard streams that the program was started with.
 #ifndef PANDREL_DRIVER_STANDARD_STREAMS_H
 #define PANDREL_DRIVER_STANDARD_STREAMS_H
 
-// Puts something in the place of standard streams that were closed by whoever started us: else the
-// next file opened would get their numbers, and notes would go into the module. Reading from what
-// replaces standard input finds nothing; writing to what replaces the others fails.
+// Opens /dev/null in the place of standard streams that whoever started the program closed, so that
+// the next file opened does not get their numbers and notes do not go into the module. Using such a
+// stream fails as it would have. Ends the run with status -1 when /dev/null cannot be opened.
 void HoldStandardStreams();
 
-// Writes the notice on standard error when standard input is a terminal, where a person may not know
-// what is expected; not when `verbose` is cleared.
+// With `verbose` set, writes the notice on standard error when standard input is a terminal: the
+// user there may not know what is expected.
 void TellIfInputIsTerminal(const char* notice);
 
 #endif

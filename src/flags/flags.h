@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The option flags. The command line sets them once before anything is read; every stage reads them
-// by name and none writes them. 0 or 1 unless said otherwise.
+// The option flags. The command line sets them before anything is read; every stage reads them by
+// name and none writes them. Each is 0 or 1, if no comment says otherwise.
 #ifndef PANDREL_FLAGS_FLAGS_H
 #define PANDREL_FLAGS_FLAGS_H
 

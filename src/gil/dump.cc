@@ -21,7 +21,7 @@ const char* KeywordName(int32_t token) {
   return text;
 }
 
-// What is printed for a token: its keyword, "?" when it has none.
+// The text for a token: its keyword, "?" when it has none.
 static const char* TokenText(int32_t token) {
   const char* text = KeywordName(token);
   return text ? text : "?";

@@ -10,7 +10,7 @@
 #include "osi/fatal.h"
 #include "text/uil_text.h"
 
-// There is no way on without the record.
+// The run cannot go on without the record.
 [[noreturn]] static void OutOfMemory(const char* message) {
   yyerror(message);
   OsiExit(-1);

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The records that a GIL file becomes: objects with attributes and actions, all plain and linked by
 // pointers. The parser makes them, the conversion reads them through GetAttrValue. Records and
-// texts live in the arena until the conversion ends; texts are writable, and whoever holds the
-// pointer sees the change.
+// texts live in the arena until the conversion ends. Texts are shared and writable: a change shows
+// to all who have the pointer.
 //
-// Codes are token numbers (gil/tokens.h). A null pointer is the empty list. Name lists stand in
-// file order, all other lists in reverse file order.
+// Codes are token numbers (gil/tokens.h). A null pointer is the empty list. Name lists are in file
+// order, all other lists in reverse file order.
 #ifndef PANDREL_GIL_OBJECT_H
 #define PANDREL_GIL_OBJECT_H
 
@@ -44,7 +44,7 @@ struct Action {
 
 struct Obj {
   int32_t type;
-  Obj* allNext;  // every object of the file, as the parser delivered them
+  Obj* allNext;  // every object of the file, in the order of the parser's list
   Obj* next;     // siblings; before resolveChildren the parser's list
   Obj* children;
   Attr* attrs;
@@ -61,7 +61,7 @@ Value* intValue(int32_t number);
 
 // A string Value with a private copy of the first `length` bytes of `text`, which end at the first
 // NUL among them. `kind` tells the scanner's identifiers (3) from its strings (1) and is
-// deliberately ignored: behind the scanner both are the same.
+// deliberately ignored: only the scanner tells them apart.
 Value* stringValue(int32_t kind, const char* text, std::size_t length);
 
 Attr* makeAttr(int32_t name, Value* value);
@@ -76,15 +76,15 @@ char* AttrText(const Attr* attrs, int32_t name);
 // (null for an empty list) in *valueOut, unlinks the attribute when `remove` is set, and returns 1.
 int GetAttrValue(Obj* obj, int32_t name, Value** valueOut, int remove);
 
-// The same for a scalar as text: a string's own text (shared), an integer's decimal text (new). A
-// token cannot be told as text: a line on standard error and 0, though the attribute is removed
-// when `remove` is set. An empty list is 0 as well.
+// The same for the text of a scalar: a string's own text (shared), an integer's decimal text (new).
+// For a token, which has no text, writes a line on standard error and returns 0, though it removes
+// the attribute when `remove` is set. Returns 0 for an empty list, too.
 int GetAttrValueString(Obj* obj, int32_t name, char** textOut, int remove);
 
-// Hangs the objects of the parser's list (reverse file order) under the objects that their OWNER
-// attributes name and returns the top-level ones; that list and all children come out in file
-// order. An owner that no object has is reported on standard error and its object stays at top
-// level. An object that owns itself disappears from the top level.
+// Puts each object of the parser's list (reverse file order) below the object that its OWNER
+// attribute names and returns the top-level ones; that list and all children are in file order.
+// Reports an owner that does not exist on standard error and leaves its object at the top level. An
+// object that owns itself disappears from the top level.
 Obj* resolveChildren(Obj* objects);
 
 #endif

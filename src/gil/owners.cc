@@ -10,8 +10,8 @@
 static std::string_view View(const char* text) { return text ? text : std::string_view(); }
 
 Obj* resolveChildren(Obj* objects) {
-  // By name, the first object of the flat list that has it. An object without a name counts as
-  // named by the empty text.
+  // By name, the first object of the flat list that has it. The name of an object without one
+  // counts as empty.
   std::unordered_map<std::string_view, Obj*> by_name;
   for (Obj* obj = objects; obj; obj = obj->next) {
     obj->allNext = obj->next;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A recursive-descent parser: one function a production, named after it. Each reads its production
-// from the look-ahead token on and returns false when a token does not fit; nobody recovers.
-// Nothing nests deeper than an action's lists, so the size of a file does not show in the stack.
+// from the look-ahead token on and returns false when a token does not fit; there is no recovery.
+// Nothing nests deeper than an action's lists, so a file of any size needs little stack.
 #include "gil/parser.h"
 
 #include "gil/scanner.h"
@@ -22,7 +22,7 @@ static bool Accept(int32_t token) {
   return true;
 }
 
-// Puts a record in front of a list: the way in which all lists but the name lists are built.
+// Puts a record in front of a list. All lists but the name lists are built in this way.
 template <typename Record>
 static void Prepend(Record* record, Record** list) {
   record->next = *list;
@@ -66,7 +66,7 @@ static bool ParseNameList(Value** out) {
   return true;
 }
 
-// A list of `ParseElement`s, put in front of each other.
+// A list of what ParseElement reads, each put in front of those before.
 template <typename Parser>
 static bool ParseReversedList(Parser ParseElement, Value** out) {
   if (!Accept(LPAREN)) return false;
@@ -235,7 +235,8 @@ static bool ParseProject(Obj** out) {
   return true;
 }
 
-// gilFile: [";GIL-3"] objectList, or [";GIL-3"] project. A version-2 header never comes this far.
+// gilFile: [";GIL-3"] objectList, or [";GIL-3"] project. The scanner ends the run at a version-2
+// header.
 static bool ParseGilFile() {
   const bool has_version = Accept(GIL_VERSION_3);
   if (!Accept(LPAREN)) return false;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The parser: one GIL file from the scanner to records. It leaves its result in one of two globals
-// and knows nothing of owners.
+// The parser: makes records of one GIL file from the scanner. Its result is in one of two globals.
+// It does not resolve owners.
 #ifndef PANDREL_GIL_PARSER_H
 #define PANDREL_GIL_PARSER_H
 
@@ -13,12 +13,11 @@ extern Obj* gilFile;
 // The project file read last; its reader clears it.
 extern Obj* project;
 
-// Parses standard input to its end. 0 when it is an interface or a project file, else 1 after the
-// first token that fits neither was reported through yyerror; what was read of the file is then
-// without effect on the two globals.
+// Parses standard input to its end. Returns 0 for an interface or a project file. Otherwise reports
+// the first token that fits neither through yyerror, leaves both globals alone and returns 1.
 int yyparse();
 
-// Forgets both results.
+// Clears both results.
 void ResetParser();
 
 #endif

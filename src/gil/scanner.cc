@@ -22,12 +22,12 @@ Value* yylval = nullptr;
 
 namespace {
 
-// Enough to tell a token that is one byte too long from one that just fits.
+// Enough to tell a token that is one byte too long from one that fits exactly.
 constexpr std::size_t kLookAhead = kTokenLimit + 2;
 constexpr std::size_t kBufferSize = 32 * 1024;
 static_assert(kBufferSize > 2 * kLookAhead);
 
-// A window on standard input. A NUL stands behind the last byte read, so that loops over a class of
+// A window on standard input. A NUL follows the last byte read, so that loops over a class of
 // characters without NUL need not test for the end.
 char buffer[kBufferSize + 1];
 
@@ -78,7 +78,7 @@ void Refill() {
   input.end = end;
 }
 
-// Makes sure that the longest token that may stand at the cursor is in the buffer as a whole.
+// Makes sure that the buffer has the whole token at the cursor, of the greatest length.
 void Fetch() {
   if (Left() < kLookAhead && !input.at_end) Refill();
 }
@@ -117,8 +117,7 @@ void SkipBlanks() {
   }
 }
 
-// The rules. Each reads what begins at the cursor and returns its token, 0 for what the parser does
-// not see.
+// The rules. Each reads what begins at the cursor and returns its token, 0 for what is skipped.
 
 int32_t ScanIllegalCharacter() {
   Accept(input.cursor + 1);
@@ -142,8 +141,8 @@ int32_t ScanSemicolon() {
   return line.starts_with(";GIL-3") ? GIL_VERSION_3 : 0;
 }
 
-// The keyword string-value delivers a string token that no text of the file backs: the same kind,
-// number and shared text as the value before, as a Value of its own.
+// The keyword string-value is a string token without a string in the file. Its Value is a copy of
+// the value before: the same kind and number, and the same text, shared.
 int32_t RepeatValue() {
   const Value* previous = yylval;
   Value* value = createValue(previous ? previous->kind : static_cast<int32_t>(kStringValue));
@@ -179,7 +178,7 @@ int32_t ScanIdentifier() {
 
 int32_t ScanInteger(const char* first_digit) {
   Accept(Skip(first_digit, kDigit));
-  // Converts as atoi does: a second "-" ends the number, which is then 0.
+  // As in atoi, a second "-" ends the number, which is then 0.
   int32_t number = 0;
   if (std::from_chars(yytext, yytext + yyleng, number).ec != std::errc()) {
     number = static_cast<int32_t>(std::strtol(yytext, nullptr, 10));
@@ -188,8 +187,8 @@ int32_t ScanInteger(const char* first_digit) {
   return INTEGER_VALUE;
 }
 
-// A number, or dashes that no digit follows: each of those is an illegal character. Their run may
-// be longer than a token, and than the buffer; only a token has a limit.
+// A number, or dashes that no digit follows: each of those is an illegal character. Only a token
+// has a limit, so the run of dashes may be longer than a token and than the buffer.
 int32_t ScanDash() {
   const char* behind = Skip(input.cursor, kDash);
   if (Is(*behind, kDigit)) return ScanInteger(behind);
@@ -209,7 +208,7 @@ const char* ClosingQuote() {
   return std::min(c, input.end);
 }
 
-// A quote that no other closes is an illegal character, and what follows is scanned anew.
+// A quote without a closing one is an illegal character; scanning goes on behind it.
 int32_t ScanString() {
   const char* quote = ClosingQuote();
   if (quote == input.end) {
@@ -265,7 +264,7 @@ void yyrestart() {
 }
 
 void yyerror(const char* message) {
-  // A message ends at the first NUL byte of the token, as all texts do.
+  // Like all texts, a message ends at the first NUL byte of the token.
   std::fprintf(stderr, "\n*** %d: %s at %.*s\n", static_cast<int>(yylineno), message,
                static_cast<int>(yyleng), yytext);
 }

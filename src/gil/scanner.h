@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The scanner: turns the characters of standard input into tokens. It reads ahead no further than
-// one token may be long, so a file of any size takes the same memory.
+// The scanner: turns the characters of standard input into tokens. It reads ahead by at most one
+// token of the greatest length, so a file of any size needs the same memory.
 #ifndef PANDREL_GIL_SCANNER_H
 #define PANDREL_GIL_SCANNER_H
 
@@ -12,30 +12,30 @@
 // The longest token, in bytes.
 constexpr std::size_t kTokenLimit = 10000;
 
-// The current token as it stands in the file; not NUL-terminated, empty at the end of input, valid
-// until the next token is asked for.
+// The current token as it is in the file; not NUL-terminated, empty at the end of input, valid
+// until the next call of yylex.
 extern const char* yytext;
 extern std::size_t yyleng;
 
-// The line of the last byte that belongs to a token, from 1. It goes on counting across the files
-// of a project.
+// The line of the last byte that belongs to a token, from 1, counted through all files of a
+// project.
 extern int32_t yylineno;
 
-// What the last IDENTIFIER, STRING_VALUE or INTEGER_VALUE carries.
+// The value of the last IDENTIFIER, STRING_VALUE or INTEGER_VALUE.
 extern Value* yylval;
 
-// The next token, or 0 at the end of input. Unknown keywords and illegal characters are reported on
-// standard error and skipped; a token over the limit is reported on standard output and ends the
-// run with status 1. A directory or a read error reads as the end of input.
+// The next token, or 0 at the end of input. Reports unknown keywords and illegal characters on
+// standard error and skips them. Reports a token over the limit on standard output and ends the run
+// with status 1. A directory or a read error counts as the end of input.
 int32_t yylex();
 
-// Starts reading standard input anew, after it was reopened on another file.
+// Starts again, after standard input was reopened on another file.
 void yyrestart();
 
 // Reports `message` with the current line and token on standard error and returns.
 void yyerror(const char* message);
 
-// Forgets the line count, the last value and whatever was read ahead.
+// Resets the line count, and drops the last value and all input that was read ahead.
 void ResetScanner();
 
 #endif

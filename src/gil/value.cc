@@ -3,6 +3,16 @@
 
 #include "osi/strings.h"
 
+static Value* GetValue(Obj* obj, int32_t name, int remove) {
+  Value* value = nullptr;
+  GetAttrValue(obj, name, &value, remove);
+  return value;
+}
+
+Value* TakeValue(Obj* obj, int32_t name) { return GetValue(obj, name, 1); }
+
+Value* PeekValue(Obj* obj, int32_t name) { return GetValue(obj, name, 0); }
+
 char* ValueText(const Value* value) {
   static char empty[1];
   return value && value->sval ? value->sval : empty;

@@ -5,12 +5,12 @@
 
 #include <cstdint>
 
-// Records the version. Version 2 is refused: three lines on standard error, and the run ends with
+// Records the version. For version 2 writes three lines on standard error and ends the run with
 // status -1.
 void SetVersion(int32_t version);
 
-// The last version recorded, 0 when no header was seen. Not forgotten between the files of a
-// project.
+// The last version recorded, 0 when no header was seen. Kept from one file of a project to
+// the next.
 int32_t GetVersion();
 
 void ResetVersion();

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
-// The table of words (gil/words.def) and the questions that the scanner, the parser and the dump
-// ask it.
+// The table of words (gil/words.def), and its look-ups for the scanner, the parser and the dump.
 #ifndef PANDREL_GIL_WORDS_H
 #define PANDREL_GIL_WORDS_H
 
 #include <cstddef>
 #include <cstdint>
 
-// The enumerations, a bit each: a word may be of several.
+// The enumerations, a bit each, since a word may belong to several.
 enum Enumeration : uint32_t {
   kElementType = 1U << 0,
   kBoolean = 1U << 1,

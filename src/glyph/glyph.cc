@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "glyph/glyph.h"
 
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -30,7 +29,7 @@ static std::string BareName(const std::string& path) {
 
 static std::string XbmName(const std::string& path) { return BareName(path) + ".xbm"; }
 
-// A text for a caller outside, who frees it.
+// A copy that the caller frees.
 static char* NewText(const std::string& text, const char* out_of_memory) {
   auto* copy = static_cast<char*>(TryRealloc(nullptr, text.size() + 1));
   if (!copy) Error(out_of_memory);
@@ -50,7 +49,8 @@ char* PixmapConvert(const char* file) {
                  "Out of memory in PixmapConvert");
 }
 
-// Whether a file can be read through to an end: a pipe or a device could keep us waiting for ever.
+// Whether a file can be read and reading it ends: a pipe or a device could keep us waiting for
+// ever.
 static bool IsReadable(const char* name) {
   struct stat status;
   return stat(name, &status) == 0 && (S_ISREG(status.st_mode) || S_ISDIR(status.st_mode)) &&
@@ -69,10 +69,9 @@ static bool StartsWithDefine(const char* name) {
 
 bool IsXbmFile(const char* name) {
   const std::size_t length = OsiStrlen(name);
-  // Three characters are compared with four, so this never holds: a bitmap is known by its
-  // contents.
+  // Three characters never equal four: only the contents tell a bitmap.
   if (length >= 3 && OsiStrcmp(name + length - 3, ".xbm") == 0) return true;
-  // Without a leading slash, and so relative to the current directory.
+  // There is no leading slash, so the folder is below the current directory.
   if (IbStrncmp(name, "usr/include/X11/bitmaps", 23) == 0) return true;
   return name && StartsWithDefine(name);
 }
@@ -82,8 +81,8 @@ static std::string ConversionCommand(const std::string& glyph, const std::string
   return "icontopbm " + ShellWord(glyph) + " | pbmtoxbm > " + ShellWord(xbm);
 }
 
-// The outside command that gives the bitmap's identifiers the file's own name: pbmtoxbm calls them
-// "noname".
+// The outside command that gives the bitmap's identifiers, which pbmtoxbm calls "noname", the
+// file's own name.
 static std::string RenameCommand(const std::string& base, const std::string& xbm) {
   const std::string file = ShellWord(xbm);
   const std::string temporary = ShellWord(xbm + ".tmp");
@@ -92,15 +91,14 @@ static std::string RenameCommand(const std::string& base, const std::string& xbm
 }
 
 static void TellHowToConvert(const std::string& glyph, const std::string& xbm) {
-  // The names shown are relative to the directory of the XBM file, those that are run are not.
+  // The rename shown is for the directory of the XBM file; the one that Convert runs is not.
   const std::string base = BareName(xbm);
   std::printf("Cannot access glyph filename %s\n", glyph.c_str());
   std::printf("Convert to XBM with the commands:\n    %s\n", ConversionCommand(glyph, xbm).c_str());
   std::printf("    %s\n\n", RenameCommand(base, base + ".xbm").c_str());
 }
 
-// The exit status of a command is not looked at: what it could not make is seen when the module is
-// used.
+// Ignores the exit status of the command: whoever uses the module sees what it could not make.
 static void Run(const std::string& command) {
   if (std::system(command.c_str()) == -1) std::fputs("Cannot run the shell\n", stderr);
 }

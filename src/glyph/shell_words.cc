@@ -10,24 +10,18 @@ static bool IsPlain(char c) {
          (c != '\0' && std::strchr("_-./+,:@%=", c));
 }
 
-// Inside single quotes only the quote itself is special: it is put outside of them, behind a
+// Only the quote itself is special between single quotes. It must stand outside of them, behind a
 // backslash.
 static std::string EscapeSingleQuotes(const std::string& text) {
   std::string escaped;
-  for (char c : text) {
-    if (c == '\'') {
-      escaped += "'\\''";
-    } else {
-      escaped += c;
-    }
-  }
+  for (char c : text) escaped += c == '\'' ? "'\\''" : std::string(1, c);
   return escaped;
 }
 
 std::string ShellWord(const std::string& name) {
   std::string operand = name;
   if (!name.empty() && name[0] == '-') operand.insert(0, "./");
-  // An empty name stays nothing at all, as in the commands shown.
+  // An empty name gets no quotes either: the commands shown to users have none.
   if (std::all_of(operand.begin(), operand.end(), IsPlain)) return operand;
   return std::string("'").append(EscapeSingleQuotes(operand)).append("'");
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Putting file names into shell commands as data: whatever a name holds, the shell passes on
-// exactly that name, as one operand. Plain names stand in the command as they are.
+// Quotes file names for shell commands: whatever a name holds, the shell passes on exactly that
+// name, as one operand. A plain name stays as it is.
 #ifndef PANDREL_GLYPH_SHELL_WORDS_H
 #define PANDREL_GLYPH_SHELL_WORDS_H
 

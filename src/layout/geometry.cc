@@ -7,7 +7,7 @@
 #include "text/uil_text.h"
 #include "widget/tree.h"
 
-// How much more room than its OPEN LOOK counterpart a control takes.
+// How many pixels more than its OPEN LOOK counterpart a control takes.
 struct AllowanceRow {
   const char* class_name;
   int32_t dx, dy;
@@ -37,7 +37,7 @@ int32_t ApproxBottomPos(const Widg* widg) {
   return WrapAdd(TopPos(widg), height != 0 ? height : WrapAdd(widg->height, widg->extra_height));
 }
 
-void MoveWidgsToFit(Widg* first, int32_t /*right*/, int32_t bottom, int32_t dx, int32_t dy) {
+void MoveWidgsToFit(Widg* first, int32_t bottom, int32_t dx, int32_t dy) {
   for (Widg* widg = first; widg; widg = widg->next) {
     const int32_t y = TopPos(widg);
     AddResource(widg, "XmNx", IntToString(WrapAdd(LeftSidePos(widg), dx)));
@@ -45,27 +45,22 @@ void MoveWidgsToFit(Widg* first, int32_t /*right*/, int32_t bottom, int32_t dx, 
   }
 }
 
-static const AllowanceRow* FindAllowance(const Widg* widg) {
-  for (const AllowanceRow& row : kAllowances) {
-    if (IsClass(widg, row.class_name)) return &row;
-  }
-  return nullptr;
-}
-
-// Makes the room that each of the sibling list needs. Shifts of earlier ones count.
+// Makes the room that each widget of the sibling list needs, where the widgets before it have put
+// it by then.
 static void MakeRoom(Widg* first) {
-  for (const Widg* child = first; child; child = child->next) {
-    const AllowanceRow* row = FindAllowance(child);
-    if (!row) continue;
-    MoveWidgsToFit(first, RightSidePos(child), BottomPos(child), row->dx, row->dy);
+  for (const Widg* widg = first; widg; widg = widg->next) {
+    for (const AllowanceRow& row : kAllowances) {
+      if (!IsClass(widg, row.class_name)) continue;
+      MoveWidgsToFit(first, BottomPos(widg), row.dx, row.dy);
+    }
   }
 }
 
 void FixUpGeometry(Widg* widg) {
-  int32_t width = Width(widg);
-  int32_t height = Height(widg);
   if (!widg->child) return;
   MakeRoom(widg->child);
+  int32_t width = Width(widg);
+  int32_t height = Height(widg);
   for (const Widg* child = widg->child; child; child = child->next) {
     width = std::max(width, ApproxRightSidePos(child));
     height = std::max(height, ApproxBottomPos(child));

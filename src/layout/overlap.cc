@@ -34,7 +34,7 @@ bool AlignedVertically(const Widg* a, const Widg* b) {
   if (ContainedWithin(left_a, left_b, right_b) && ContainedWithin(right_a, left_b, right_b)) {
     return true;
   }
-  // The second test asks after a's own right edge, not b's: it only keeps out widgets of negative
+  // The second test looks at a's own right edge, not at b's: it only excludes widgets of negative
   // width.
   if (ContainedWithin(left_b, left_a, right_a) && ContainedWithin(right_a, left_a, right_a)) {
     return true;

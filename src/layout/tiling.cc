@@ -9,67 +9,54 @@
 #include "widget/resources.h"
 #include "widget/walk.h"
 
+// How an edge is read and moved.
+struct EdgeRow {
+  const char* name;
+  const char* resource;  // what AddResource changes to move it
+  int32_t (*Original)(const Widg*);
+  int32_t (*Current)(const Widg*);
+  int32_t (*Start)(const Widg*);  // the opposite edge, for a resource that is a size; else null
+};
+
+// In the order of the codes.
+static const EdgeRow kEdges[] = {
+    {"PositionLeft", "XmNx", [](const Widg* w) { return w->x; }, LeftSidePos, nullptr},
+    {"PositionRight", "XmNwidth", [](const Widg* w) { return WrapAdd(w->x, w->width); },
+     RightSidePos, LeftSidePos},
+    {"PositionTop", "XmNy", [](const Widg* w) { return w->y; }, TopPos, nullptr},
+    {"PositionBottom", "XmNheight", [](const Widg* w) { return WrapAdd(w->y, w->height); },
+     BottomPos, TopPos},
+};
+
+static const EdgeRow* FindEdge(int32_t code) {
+  return code >= kPositionLeft && code <= kPositionBottom ? &kEdges[code] : nullptr;
+}
+
 int32_t OrigPos(const Widg* widg, int32_t code) {
-  switch (code) {
-    case kPositionLeft:
-      return widg->x;
-    case kPositionRight:
-      return WrapAdd(widg->x, widg->width);
-    case kPositionTop:
-      return widg->y;
-    case kPositionBottom:
-      return WrapAdd(widg->y, widg->height);
-    default:
-      return 0;
-  }
+  const EdgeRow* edge = FindEdge(code);
+  return edge ? edge->Original(widg) : 0;
 }
 
 int32_t GetPosition(const Widg* widg, int32_t code) {
-  switch (code) {
-    case kPositionLeft:
-      return LeftSidePos(widg);
-    case kPositionRight:
-      return RightSidePos(widg);
-    case kPositionTop:
-      return TopPos(widg);
-    case kPositionBottom:
-      return BottomPos(widg);
-    default:
-      return 0;
-  }
-}
-
-static void SetExtent(Widg* widg, const char* name, int32_t start, int32_t end) {
-  if (end != start) AddResource(widg, name, IntToString(WrapSub(end, start)));
+  const EdgeRow* edge = FindEdge(code);
+  return edge ? edge->Current(widg) : 0;
 }
 
 void SetPosition(Widg* widg, int32_t code, int32_t value) {
-  switch (code) {
-    case kPositionLeft:
-      AddResource(widg, "XmNx", IntToString(value));
-      break;
-    case kPositionRight:
-      SetExtent(widg, "XmNwidth", LeftSidePos(widg), value);
-      break;
-    case kPositionTop:
-      AddResource(widg, "XmNy", IntToString(value));
-      break;
-    case kPositionBottom:
-      SetExtent(widg, "XmNheight", TopPos(widg), value);
-      break;
-    default:
-      break;
-  }
+  const EdgeRow* edge = FindEdge(code);
+  if (!edge) return;
+  const int32_t start = edge->Start ? edge->Start(widg) : 0;
+  if (edge->Start && value == start) return;
+  AddResource(widg, edge->resource, IntToString(WrapSub(value, start)));
 }
 
 const char* PrintPos(int32_t code) {
-  static const char* const kNames[] = {"PositionLeft", "PositionRight", "PositionTop",
-                                       "PositionBottom"};
-  return code >= kPositionLeft && code <= kPositionBottom ? kNames[code] : "";
+  const EdgeRow* edge = FindEdge(code);
+  return edge ? edge->name : "";
 }
 
 void InsertBefore(Widg** slots, Widg* widg, int32_t m) {
-  // Upward, each copy reading what the one before it wrote: note [inserting loses widgets].
+  // Each copy reads what the one before it wrote: note [inserting loses widgets].
   for (int32_t t = 0; t < m; ++t) slots[t + 1] = slots[t];
   slots[0] = widg;
 }

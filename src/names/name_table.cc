@@ -17,11 +17,10 @@ static const char* const kReservedWords[] = {
     "foreground", "icon", "imported", "integer", "integer_table", "keysym", "managed", "names",
     "objects", "reason", "rgb", "right_to_left", "single_float", "string", "string_table",
     "translation_table", "unmanaged", "user_defined", "version", "wide_character",
-    // The second "widget": its entry becomes widget1, so the first widget of that name is widget2.
+    // A second "widget" makes the entry widget1, so the first widget of that name becomes widget2.
     "widget", "xbitmapfile"};
 
 static NameTable instance_names;
-static bool first_use = true;
 
 NameHandle NameLookup(const NameTable* table, const char* name) {
   const auto found = table->index.find(name ? name : "");
@@ -39,11 +38,13 @@ static NameEntry& EntryOf(NameTable* table, NameHandle handle) {
   return table->entries[static_cast<std::size_t>(handle)];
 }
 
+// Adds a holder.
 static NameHandle Revive(NameTable* table, NameHandle handle) {
   ++EntryOf(table, handle).refcount;
   return handle;
 }
 
+// The first number that was not tried behind `base`, for the caller to raise.
 static int32_t* UntriedNumber(NameTable* table, const char* base) {
   auto untried = table->untried.find(base);
   if (untried == table->untried.end()) {
@@ -102,10 +103,7 @@ int32_t NamePosition(const NameTable* table, const char* name) {
 }
 
 NameTable* InstanceNameTbl() {
-  if (first_use) {
-    first_use = false;
-    AddUILKeyWordsToTable(&instance_names);
-  }
+  if (instance_names.entries.empty()) AddUILKeyWordsToTable(&instance_names);
   return &instance_names;
 }
 
@@ -117,7 +115,4 @@ const char* GetSetIdentifierLegalChars() { return "_$"; }
 
 const char* GetSetTypeLegalChars() { return "_$.()[]&->:"; }
 
-void ResetNameTable() {
-  instance_names = NameTable();
-  first_use = true;
-}
+void ResetNameTable() { instance_names = NameTable(); }

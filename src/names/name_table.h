@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-// The set of names in use. Asking it for a name that is taken yields the name with a number
-// appended, so that every widget of a module has a name of its own. A leaf that any folder may use.
+// The set of names in use. Who asks it for a name that is taken gets the name with a number behind
+// it, so that every widget of a module has a name of its own. A leaf that any folder may use.
 //
-// A name is known by its handle, a number in order of creation that never changes. Names are
-// counted, never removed: one whose count fell to zero is remembered and revived by the next
-// request for it.
+// A name is known by its handle, a number in order of creation that never changes. The table counts
+// the holders of a name and never removes one: the next request revives a name without holders.
 #ifndef PANDREL_NAMES_NAME_TABLE_H
 #define PANDREL_NAMES_NAME_TABLE_H
 
@@ -22,11 +21,10 @@ constexpr NameHandle kNoName = -1;
 
 struct NameEntry {
   OsiOwnedText text;  // holders may write to it
-  int32_t refcount;   // 0: deleted but remembered
+  int32_t refcount;   // the number of holders; 0: deleted but remembered
 };
 
-// The number of a base from which on its numbered forms have not been tried: all lower ones are in
-// use.
+// The lowest number that was not tried behind a base: the forms with lower numbers are in use.
 struct Untried {
   OsiOwnedText base;
   int32_t number = 1;
@@ -39,27 +37,27 @@ using ByText =
 
 struct NameTable {
   std::vector<NameEntry, OsiAllocator<NameEntry>> entries;  // by handle
-  // Keys are the texts as they were entered. A holder renames an instance only once all names are
-  // given out, and where the module is meant for the builder, whose procedures are not compared
-  // with names: nobody looks for a renamed text.
+  // Keys are views of the texts, hashed as they were entered. Holders change a text only when all
+  // names are given out and the module is meant for the builder, so nobody looks for it again.
   ByText<NameHandle> index;
-  // Without it the tenth namesake would cost ten look-ups. Forgotten whenever a name is deleted.
+  // Saves the tenth namesake ten look-ups. Cleared whenever a name is deleted.
   ByText<Untried> untried;
 };
 
 // Enters a unique form of `name` (null counts as empty) and returns its handle.
 //
-// A free name is entered as it is. When it is taken, trailing white space and then trailing digits
-// are cut off and the first free one of <base>1, <base>2, ... is entered:
+// Enters a free name as it is. For a taken one, cuts off trailing white space and then trailing
+// digits, and enters the first free one of <base>1, <base>2, ...:
 //   button (taken)  -> button1, button2, ...
 //   item7  (taken)  -> item1, not item71
-// A deleted name found on the way is revived instead.
+// Revives a deleted name instead if it finds one on the way.
 NameHandle NameCreate(NameTable* table, const char* name);
 
-// The text of the name; null for kNoName and for a handle that was never given out.
+// The text of the name, owned by the table; null for kNoName and for a handle that was never given
+// out.
 char* NameGet(const NameTable* table, NameHandle handle);
 
-// Lowers the count of a present name, never below 0. Null and unknown names are ignored.
+// Takes a holder from a name that has one; does nothing for null and unknown names.
 void NameDelete(NameTable* table, const char* name);
 
 // One more holder for a present name (no new name is made); for an absent one NameCreate, for null
@@ -72,11 +70,11 @@ int NameInUse(const NameTable* table, NameHandle handle);
 // The handle of `name`, deleted ones included, or kNoName.
 NameHandle NameLookup(const NameTable* table, const char* name);
 
-// How many names of the table are less than `name`, byte by byte: its place in sorted order. For
-// diagnostics; linear in the table.
+// How many names of the table are less than `name`, byte by byte: its place in sorted order. Its
+// time is linear in the table, so use it for diagnostics only.
 int32_t NamePosition(const NameTable* table, const char* name);
 
-// The names that widgets of this conversion hold, the reserved words of UIL among them.
+// The table of this conversion: the names of its widgets, and the reserved words of UIL.
 NameTable* InstanceNameTbl();
 
 // Enters the reserved words of UIL, in list order. "widget" stands twice in the list and so

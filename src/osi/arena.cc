@@ -12,8 +12,8 @@
 
 namespace {
 
-// An ordinary file fits into the first chunk or two. Those of a large file are touched as a whole, so
-// the kernel is asked to provide their pages at once: one by one they took 13 % of the time of 4 MB.
+// An ordinary file needs the first chunk or two. A large file uses whole chunks, so ask the kernel
+// for their pages at once: one by one they take 13 % of the time of a 4 MB file.
 #ifdef PANDREL_SANITIZED
 constexpr std::size_t kFirstChunkSize = 0;
 constexpr std::size_t kLargeChunkSize = 0;
@@ -23,15 +23,15 @@ constexpr std::size_t kLargeChunkSize = 1024 * 1024;
 #endif
 constexpr std::size_t kAlignment = alignof(void*);
 
-// Chunks are linked only so that ArenaReset finds them.
+// The links are for ArenaReset.
 struct Chunk {
   Chunk* previous;
 };
 
 struct Arena {
   Chunk* last = nullptr;
-  // The free part of the current chunk: records are taken from its start, texts from its end, so
-  // that neither wastes padding.
+  // The free part of the current chunk. Records come from its start and texts, which need no
+  // alignment, from its end, so that no padding is lost between them.
   char* start = nullptr;
   char* end = nullptr;
   long successes_left = -1;
@@ -39,7 +39,7 @@ struct Arena {
 
 Arena arena;
 
-// Whether another request may be served.
+// Whether a test lets another request succeed.
 bool CountRequest() {
   if (arena.successes_left < 0) return true;
   if (arena.successes_left == 0) return false;
@@ -47,14 +47,15 @@ bool CountRequest() {
   return true;
 }
 
-// Asks for the whole pages of the block. A wish: without it they come when they are touched.
+// Asks the kernel for the whole pages of the block. If it fails, each page comes when it is
+// touched.
 void Populate(char* block, std::size_t size) {
   static const auto page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
   const std::size_t before = (page - reinterpret_cast<std::uintptr_t>(block) % page) % page;
   if (size > before) madvise(block + before, (size - before) / page * page, MADV_POPULATE_WRITE);
 }
 
-// Makes sure that `size` bytes are free. What was left of the former chunk is given up.
+// Makes sure that `size` bytes are free. Gives up the rest of a chunk that has too few.
 bool MakeRoom(std::size_t size) {
   if (!CountRequest()) return false;
   if (size <= static_cast<std::size_t>(arena.end - arena.start)) return true;

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Storage for everything that lives as long as one conversion: records and the texts they point at.
-// Nothing is freed one by one; ArenaReset gives all of it back at once, which the program itself
-// never needs and tests call between conversions. Blocks come out side by side, without a header
-// each, so that a file's attributes cost little more than their fields.
+// Nothing is freed one by one. ArenaReset frees all of it; the program never does so, tests do
+// between conversions. Blocks lie side by side without headers, so that an attribute takes little
+// more than its fields.
 //
-// Built with sanitizers every block is an allocation of its own, so that a byte written past one
-// record is caught instead of landing in the next.
+// With sanitizers every block is an allocation of its own, so that they catch a write past the end
+// of one record.
 #ifndef PANDREL_OSI_ARENA_H
 #define PANDREL_OSI_ARENA_H
 
@@ -13,7 +13,7 @@
 #include <new>
 
 // A block of `size` bytes aligned for any record of ours, uninitialised; null when memory is
-// exhausted (the caller says in its own words what could not be had).
+// exhausted, which the caller reports.
 void* ArenaAlloc(std::size_t size);
 
 // A block of `size` bytes for text, with no alignment; null when memory is exhausted.
@@ -30,7 +30,7 @@ Record* ArenaNew() {
   return block ? new (block) Record() : nullptr;
 }
 
-// realloc for a buffer of its own outside the arena, which its user frees; null when memory is
+// realloc, outside the arena: the caller frees the block with free(). Null when memory is
 // exhausted.
 void* TryRealloc(void* block, std::size_t size);
 

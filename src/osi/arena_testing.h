@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-// For tests of what is said when memory is exhausted.
+// For tests of exhausted memory.
 #ifndef PANDREL_OSI_ARENA_TESTING_H
 #define PANDREL_OSI_ARENA_TESTING_H
 
-// The first `successes` requests to the arena from now on are served, all later ones fail. A
-// negative number (the default) lifts the limit.
+// Lets the next `successes` requests to the arena succeed and all later ones fail. A negative
+// number (the default) lifts the limit.
 void ArenaFailAfter(long successes);
 
 #endif

@@ -5,8 +5,8 @@
 
 #include <dirent.h>
 
-// Opens the directory "`dir`/`name`" (null parts are empty); null when it cannot be opened. Closed
-// by the caller with OsiCloseDir.
+// Opens the directory "`dir`/`name`" (null parts are empty); null when it cannot be opened. The
+// caller closes it with OsiCloseDir.
 DIR* OsiOpenDir(const char* dir, const char* name);
 
 // The next entry, owned by `directory` and valid until its next OsiReadDir; null at the end, on a
@@ -16,8 +16,8 @@ struct dirent* OsiReadDir(DIR* directory);
 // Closes `directory`. Returns 0; -1 on failure or for null.
 int OsiCloseDir(DIR* directory);
 
-// A new copy (OsiMalloc memory) of the full name of the current directory; null when it has none
-// any more or the name needs more than 1024 bytes, the NUL included.
+// A new copy (OsiMalloc memory) of the full name of the current directory; null when the directory
+// was removed, or when the name with its NUL needs more than 1024 bytes.
 char* OsiGetCwd();
 
 #endif

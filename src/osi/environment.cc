@@ -9,8 +9,8 @@ char* OsiGetEnv(const char* name) { return std::getenv(name ? name : ""); }
 
 int OsiSetEnv(const char* name, const char* value) {
   if (!name || !value) return -1;
-  // The string becomes part of the environment, which may be read until the process ends: it is not
-  // freed, not even when the variable is set anew.
+  // The string becomes part of the environment, which somebody may read until the process ends.
+  // Never free it, not even when the variable is set again.
   char* assignment = OsiStrAppend(OsiStrAppend(nullptr, name, "="), value);
   return putenv(assignment) == 0 ? 0 : -1;
 }

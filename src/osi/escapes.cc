@@ -14,7 +14,7 @@ constexpr std::size_t kByteCount = 256;
 // The longest entry is an octal escape sequence.
 using Entry = std::array<char, 5>;
 
-// Octal with all three digits: what follows the sequence cannot be taken for a part of it.
+// All three octal digits, so that no digit behind the sequence becomes a part of it.
 constexpr Entry Octal(unsigned byte) {
   return {'\\', static_cast<char>('0' + byte / 64), static_cast<char>('0' + byte / 8 % 8),
           static_cast<char>('0' + byte % 8), '\0'};
@@ -39,7 +39,7 @@ constexpr std::array<Entry, kByteCount> MakeTable() {
 
 constexpr std::array<Entry, kByteCount> kTable = MakeTable();
 
-// The table as the caller wants it.
+// The table with the caller's changes.
 std::array<const char*, kByteCount> TextsOf(const OsiFixOptions& options, unsigned flags) {
   std::array<const char*, kByteCount> texts;
   for (std::size_t byte = 0; byte < kByteCount; ++byte) texts[byte] = kTable[byte].data();

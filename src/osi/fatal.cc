@@ -12,14 +12,13 @@ static OsiExitHandler exit_handler = nullptr;
 void OsiExit(int status) {
   if (exit_handler) {
     exit_handler(status);
-    std::abort();  // a handler that returns would let a fatal condition carry on
+    std::abort();  // a handler must not return: the caller cannot go on
   }
 #ifdef PANDREL_REPORTS_AT_EXIT
   std::exit(status);
 #else
-  // Only what is in the streams matters. What exit() would do besides, destructors and the
-  // libraries' own endings, tidies memory that is about to be gone, and takes as long as reading a
-  // small file.
+  // Only the streams matter. exit() would also run destructors and the libraries' own endings,
+  // which takes as long as reading a small file.
   std::fflush(nullptr);
   _exit(status);
 #endif
@@ -41,7 +40,7 @@ OsiExitHandler OsiSetExitHandler(OsiExitHandler handler) {
   return previous;
 }
 
-// Written past stdio, which may itself want memory for a buffer.
+// Does not use stdio, which may need memory for a buffer.
 static void ReportExhaustedMemory() {
   static const char kMessage[] = "Error: Out of memory\n";
   if (write(STDERR_FILENO, kMessage, sizeof kMessage - 1) < 0) OsiExit(-1);

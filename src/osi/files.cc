@@ -34,8 +34,8 @@ struct User {
 
 User user;
 
-// With more groups than there is room for, the list cannot be read, and the current group is all
-// there is.
+// Reads the user and the groups; only the current group when there are more than kMaxGroups, since
+// the system then gives no list.
 void ReadUser() {
   user.uid = getuid();
   user.group_count = getgroups(kMaxGroups, user.groups);
@@ -113,7 +113,7 @@ const char* OsiDirCreate(const char* path, mode_t mode) {
 }
 
 char* OsiTmpNam() {
-  // tmpnam would do, but the linker warns against it.
+  // Not tmpnam, since the linker warns about it.
   constexpr std::size_t kBlockSize = 25;
   auto* name = static_cast<char*>(OsiZalloc(kBlockSize));
   do {

@@ -11,8 +11,8 @@
 
 // note [toolkit sizes]
 // The toolkit counts bytes in a Cardinal, which is narrower than size_t: XtMalloc of 4 GB and 1
-// byte would hand out 1 byte. A size beyond its range is an allocation that fails, and ends like
-// any other of the toolkit's: its message, its status.
+// byte would return 1 byte. A size beyond its range is therefore an allocation that fails, and it
+// ends as the toolkit's own do, with their message and status.
 static Cardinal ToolkitSize(std::size_t size, const char* function) {
   if (size > std::numeric_limits<Cardinal>::max()) {
     std::fprintf(stderr, "Error: Cannot perform %s\n", function);

@@ -10,9 +10,8 @@
 #include "osi/trim.h"
 #include "osi/wide_text.h"
 
-// Any number from here on is too large. One more digit than fits can wrap the 32-bit accumulator
-// back below this (4294967297 reads as 1): names are told apart by such numbers, never counted, so
-// no wider arithmetic is spent on them.
+// A number is too large from here on. A digit too many can wrap the 32-bit sum back below the limit
+// (4294967297 reads as 1). That does no harm: such numbers only tell names apart.
 static constexpr std::uint32_t kNumberLimit = std::uint32_t{1} << 30;
 
 // Reads the wide `text` into `*value`.

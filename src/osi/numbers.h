@@ -10,9 +10,9 @@ enum OsiNumberError {
   kOsiNotANumber = -2,      // something other than digits follows the digits
 };
 
-// Reads `s`: blanks and tabs, perhaps a "-", then decimal digits up to the end. No digits at all,
-// and null, read as 0. On failure the result is false and `*value` 0; `*error` is an
-// OsiNumberError. Either output may be null. A text that is no text in the current locale is not a
+// Reads `s`: blanks and tabs, perhaps a "-", then decimal digits up to the end. Null, and no digits
+// at all, read as 0. On failure returns false and sets `*value` to 0. Sets `*error` to an
+// OsiNumberError. Either output may be null. Bytes that are no text in the current locale are not a
 // number.
 bool OsiStrToInt(const char* s, int* value, int* error);
 
@@ -20,8 +20,8 @@ bool OsiStrToInt(const char* s, int* value, int* error);
 char* OsiIntToStr(int n);
 
 // Cuts trailing white space and then a trailing decimal number off `s` in place, and returns the
-// number; 0 when there is none or it is too large (it is cut all the same). The first character is
-// never examined nor removed: "123" becomes "1" and gives 23. Null and the empty string give 0.
+// number; 0 when there is none, or when it is too large (and cut off all the same). Never looks at
+// the first character: "123" becomes "1" and gives 23. Null and the empty string give 0.
 int OsiRemoveEndDigits(char* s);
 
 #endif

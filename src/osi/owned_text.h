@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What lets the standard containers stand on the layer's memory, so that an exhausted heap ends the
-// run as OsiMalloc does.
+// Smart pointers and containers of the standard library over OsiMalloc memory, so that an exhausted
+// heap ends the run as OsiMalloc does.
 #ifndef PANDREL_OSI_OWNED_TEXT_H
 #define PANDREL_OSI_OWNED_TEXT_H
 
@@ -13,7 +13,7 @@ struct OsiDeleter {
   void operator()(void* block) const { OsiFree(block); }
 };
 
-// A text of OsiMalloc memory that is freed with its holder.
+// Frees a text of OsiMalloc memory with its holder.
 using OsiOwnedText = std::unique_ptr<char, OsiDeleter>;
 
 // An allocator over OsiMalloc and OsiFree.

@@ -13,10 +13,10 @@
 #include "osi/owned_text.h"
 #include "osi/strings.h"
 
-// Longer than any path that the system takes, so what is cut off is never missed.
+// Longer than any path that the system takes, so nobody misses what is cut off.
 using PathBuffer = char[2 * PATH_MAX];
 
-// Joins the two in the buffer, which they may lie in.
+// Joins `dir` and `name` in the buffer; either may lie in it.
 static char* Join(const char* dir, const char* name, PathBuffer& buffer) {
   std::string path = dir ? dir : "";
   if (path.empty() || path.back() != '/') path += '/';
@@ -52,7 +52,7 @@ void OsiFileComponents(const char* path, char** dir, char** file) {
   std::size_t slash = whole.rfind('/');
   bool has_dir = slash != std::string::npos;
   if (dir) *dir = has_dir ? OsiStrdup(whole.substr(0, slash).c_str()) : OsiGetCwd();
-  // A current directory without a usable name (removed, or too deep) can still be called ".".
+  // "." also names a current directory that has no other name (removed, or too deep).
   if (dir && !*dir) *dir = OsiStrdup(".");
   if (file) *file = OsiStrdup(whole.c_str() + (has_dir ? slash + 1 : 0));
 }

@@ -21,7 +21,7 @@ pid_t OsiProcExec(const char* path, const char* arguments) {
     std::fprintf(stderr, "OsiProcExec: File %s not found\n", path);
     return 0;
   }
-  // Split before the fork: the child then has nothing left to do that could fail but execv.
+  // Split before the fork, so that only execv can fail in the child.
   constexpr int kMaxWords = 24;
   char* copy = OsiStrdup(arguments ? arguments : "");
   std::string program = path;
@@ -35,7 +35,7 @@ pid_t OsiProcExec(const char* path, const char* arguments) {
   if (child == 0) {
     execv(path, list);
     std::fprintf(stderr, "OsiProcExec: Failed to exec %s\n", path);
-    // Not exit(): what the parent had left in its output buffers would be written a second time.
+    // exit() would write the parent's unwritten output a second time.
     _exit(127);
   }
   OsiFree(copy);

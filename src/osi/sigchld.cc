@@ -10,13 +10,13 @@
 
 namespace {
 
-// Null-terminated; null before the first addition. A removal keeps the block, so that a handler may
-// remove itself: freeing memory is not allowed in a signal handler.
+// Null-terminated; null before the first addition. A removal does not free the block: a handler may
+// remove itself, and a signal handler must not free memory.
 OsiSignalHandler* handlers = nullptr;
 bool is_installed = false;
 struct sigaction former_action;
 
-// Holds SIGCHLD back as long as it lives.
+// Blocks SIGCHLD as long as it lives.
 class SigchldBlock {
  public:
   SigchldBlock() {
@@ -39,7 +39,7 @@ void CallHandlers(int signal) {
   while (handlers && handlers[i]) {
     OsiSignalHandler handler = handlers[i];
     handler(signal);
-    // One that removed itself has its successor in its place now.
+    // A handler that removed itself has its successor in its place now.
     if (handlers && handlers[i] == handler) ++i;
   }
   errno = interrupted_errno;

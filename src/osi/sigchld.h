@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The list of functions that are called when a child process ends or stops. It is changed from
-// normal code and read by the signal handler; a signal that comes during a change is held back
-// until the change is whole.
+// The list of functions to call when a child process ends or stops. Normal code changes it and the
+// signal handler reads it; the signal is blocked during a change.
 #ifndef PANDREL_OSI_SIGCHLD_H
 #define PANDREL_OSI_SIGCHLD_H
 
@@ -10,12 +9,12 @@
 using OsiSignalHandler = void (*)(int signal);
 
 // Adds `handler` to the end of the list, or removes its first occurrence. The first addition
-// installs the signal action, which stays when the list is empty again. System calls that a signal
-// interrupts go on by themselves. False when there is nothing to remove, for a null handler, or
-// when the signal action cannot be installed.
+// installs the signal action, which stays when the list becomes empty. Interrupted system calls are
+// restarted. False when there is nothing to remove, for a null handler, or when the signal action
+// cannot be installed.
 bool OsiSigchld(OsiSignalHandler handler, bool add);
 
-// Empties the list and puts back the signal action that the first addition replaced.
+// Empties the list and restores the signal action that the first addition replaced.
 void OsiSigchldReset();
 
 #endif

@@ -51,7 +51,7 @@ char* OsiStrAppend(char* s, const char* a, const char* b) {
   std::size_t s_length = OsiStrlen(s);
   std::size_t a_length = OsiStrlen(a);
   std::size_t b_length = OsiStrlen(b);
-  // A fresh block, not OsiRealloc: `a` and `b` may be parts of `s` and must outlive the copying.
+  // Not OsiRealloc: `a` and `b` may be parts of `s`, so `s` must outlive the copying.
   auto* grown = static_cast<char*>(OsiMalloc(s_length + a_length + b_length + 1));
   std::memcpy(grown, OrEmpty(s), s_length);
   std::memcpy(grown + s_length, OrEmpty(a), a_length);
@@ -64,7 +64,7 @@ char* OsiStrAppend(char* s, const char* a, const char* b) {
 char* OsiStrReplace(char* s, const char* text) {
   text = OrEmpty(text);
   std::size_t length = std::strlen(text);
-  // A text that lies inside `s` is never longer than `s`, so it is not touched by the growing.
+  // A text inside `s` is never longer than `s`, so `s` does not move in that case.
   if (!s || std::strlen(s) < length) s = static_cast<char*>(OsiRealloc(s, length + 1));
   std::memmove(s, text, length);
   s[length] = '\0';

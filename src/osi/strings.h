@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-// The standard string functions made forgiving: a null string counts as an empty one, so that the
-// converter compares and copies names without asking first whether they are there. New strings are
-// OsiMalloc memory, released with OsiFree by whoever cares to; nothing here keeps a pointer.
+// The standard string functions, but a null string counts as an empty one, so that the converter
+// compares and copies names without a test for null. New strings are OsiMalloc memory, which the
+// caller may release with OsiFree. Nothing here keeps a pointer.
 //
-// Comparing without regard to case is in case.h, cutting white space in trim.h, numbers in
-// numbers.h, escaping in escapes.h.
+// See case.h for comparisons without regard to case, trim.h for white space, numbers.h for numbers
+// and escapes.h for escape sequences.
 #ifndef PANDREL_OSI_STRINGS_H
 #define PANDREL_OSI_STRINGS_H
 
@@ -28,16 +28,16 @@ inline std::size_t OsiStrlen(const char* s) { return s ? std::strlen(s) : 0; }
 char* OsiStrdup(const char* s);
 
 // strcpy, strncpy, strcat and strncat: return `dst`, take a null `src` as empty, and do nothing but
-// return null when `dst` is null. The caller sees to the room in `dst`; as in the standard library,
-// OsiStrncpy fills up to `n` bytes with NUL and leaves a longer `src` unterminated.
+// return null when `dst` is null. The caller provides the room in `dst`. As in the standard
+// library, OsiStrncpy fills up to `n` bytes with NUL and leaves a longer `src` unterminated.
 char* OsiStrcpy(char* dst, const char* src);
 char* OsiStrncpy(char* dst, const char* src, std::size_t n);
 char* OsiStrcat(char* dst, const char* src);
 char* OsiStrncat(char* dst, const char* src, std::size_t n);
 
 // strchr, strrchr and strstr: null when nothing is found or the string searched is null; a null
-// needle is an empty one, found at once. As with their C namesakes the result loses the const of
-// what was searched: write through it only when the string was writable.
+// needle is an empty one, found at once. As in C the result is not const even if `s` is: write
+// through it only when the string is writable.
 char* OsiStrchr(const char* s, int c);
 char* OsiStrrchr(const char* s, int c);
 char* OsiStrstr(const char* s, const char* needle);

@@ -7,7 +7,7 @@
 #include "osi/memory.h"
 
 static bool IsSpace(char c) {
-  if (c > ' ' && c <= '~') return false;  // in no locale
+  if (c > ' ' && c <= '~') return false;  // white space in no locale
   return std::isspace(static_cast<unsigned char>(c)) != 0;
 }
 

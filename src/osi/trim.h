@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-// Cutting white space (the standard library's class, in the current locale) off strings.
+// Cuts white space (the standard library's class, in the current locale) off strings.
 //
 // note [the first character stays]
-// What cuts a string in place never removes its first character, so that a text does not become an
-// empty one: a string of blanks becomes one blank. Numbers cut off names follow the same rule.
+// Functions that cut a string in place never remove its first character, so that no text becomes
+// empty: a string of blanks becomes one blank. OsiRemoveEndDigits follows the same rule.
 #ifndef PANDREL_OSI_TRIM_H
 #define PANDREL_OSI_TRIM_H
 

@@ -31,7 +31,7 @@ std::size_t OsiWcStrlen(const wchar_t* w) { return OsiWcstombs(nullptr, w, 0); }
 std::size_t OsiWcNStrlen(const wchar_t* w, std::size_t n) {
   const wchar_t* rest = OrEmpty(w);
   std::mbstate_t state = {};
-  // Told no more than there is: sanitizers take the count for the size of what is read.
+  // Pass no more than the text has: sanitizers take the count for the size of what is read.
   return wcsnrtombs(nullptr, &rest, wcsnlen(rest, n), 0, &state);
 }
 
@@ -51,7 +51,7 @@ wchar_t* OsiWcStrchr(const wchar_t* w, wchar_t c) {
 
 wchar_t* OsiWcMbStrcat(wchar_t* wide, const char* s) {
   if (!wide) return nullptr;
-  // Counted first: a conversion that fails half way would leave `wide` without its NUL.
+  // Count first: a conversion that fails half way would leave `wide` without its NUL.
   std::size_t length = OsiMbstowcs(nullptr, s, 0);
   if (length == kOsiBadText) return nullptr;
   OsiMbstowcs(wide + std::wcslen(wide), s, length + 1);

@@ -18,8 +18,7 @@ std::size_t OsiWcstombs(char* dst, const wchar_t* w, std::size_t n);
 
 // mbtowc: converts the first character of `s`, at most `n` bytes long, into `*wide` (which may be
 // null). Returns its length in bytes, 0 for the end of the string, -1 when it is no character or
-// not whole. A null `s` reads as the end of the string and puts the conversion back into its first
-// state.
+// incomplete. A null `s` counts as the end of the string and resets the conversion state.
 int OsiMbtowc(wchar_t* wide, const char* s, std::size_t n);
 
 // Length in wide characters.
@@ -32,16 +31,16 @@ std::size_t OsiWcNStrlen(const wchar_t* w, std::size_t n);
 // wcscmp.
 int OsiWcStrcmp(const wchar_t* a, const wchar_t* b);
 
-// wcscpy and wcscat: return `dst`; do nothing but return null when `dst` is null. The caller sees
-// to the room in `dst`.
+// wcscpy and wcscat: return `dst`; do nothing but return null when `dst` is null. The caller
+// provides the room in `dst`.
 wchar_t* OsiWcStrcpy(wchar_t* dst, const wchar_t* src);
 wchar_t* OsiWcStrcat(wchar_t* dst, const wchar_t* src);
 
 // wcschr: null when `c` is not found or `w` is null. The result loses the const of `w`.
 wchar_t* OsiWcStrchr(const wchar_t* w, wchar_t c);
 
-// Appends the multibyte string `s` to `wide`, in which the caller sees to the room. Returns `wide`;
-// null, with nothing appended, when `wide` is null or `s` cannot be converted.
+// Appends the multibyte string `s` to `wide`, in which the caller provides the room. Returns
+// `wide`; null, with nothing appended, when `wide` is null or `s` cannot be converted.
 wchar_t* OsiWcMbStrcat(wchar_t* wide, const char* s);
 
 // A new wide copy of `s`, a new multibyte copy of `w` (OsiMalloc memory); an empty one for null.

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Sums and differences of pixels that wrap to 32 bits, as the machine's own do: coordinates come
-// from files and may be anything.
+// Sums and differences of pixels that wrap to 32 bits: coordinates come from files and may be
+// anything, and the overflow of a signed number is undefined in C++.
 #ifndef PANDREL_OSI_WRAP_H
 #define PANDREL_OSI_WRAP_H
 

@@ -14,11 +14,11 @@ static bool IsMenu(const Widg* widg) {
 
 // note [a menu behind the last window stays]
 // Dropping a menu clears its own `next`, but the last widget kept still points at the first menu
-// behind it, which so remains a top-level widget:
+// behind it. That menu therefore remains a top-level widget:
 //   shell menu shell        -> shell shell
 //   shell menu1 menu2       -> shell menu1
 static Widg* DropMenus(Widg* first) {
-  // Its only use is its `next`; being a widget, it takes the name that comes of an empty one.
+  // Only the `next` of this widget is used, but it takes a name: later names depend on that.
   char no_name[] = "";
   Widg* head = MakeWidg("", no_name);
   Widg* last_kept = head;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Spelling out Motif's convenience widgets, which the builder's version 2.5 does not read.
+// Replaces Motif's convenience widgets, which the builder's version 2.5 does not read.
 #ifndef PANDREL_PASSES_CONVENIENCE_H
 #define PANDREL_PASSES_CONVENIENCE_H
 
@@ -8,8 +8,8 @@ struct Widg;
 // Replaces every scrolled text and scrolled list of the tree.
 void ReplaceConvenienceWidgets(Widg* tree);
 
-// A scrolled text or list becomes a scrolled window with the work widget as its last child: a copy,
-// so that both carry the same resources and callbacks. Other widgets stay.
+// Turns a scrolled text or list into a scrolled window with a text or a list as its last child.
+// Both share their resources and callbacks. Leaves other widgets alone.
 void ReplaceIfConvenienceWidget(Widg* widg);
 
 #endif

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-// Keeping procedures apart from widgets, which share one name space in UIL.
+// Keeps the names of procedures apart from those of widgets, since UIL has one name space for both.
 #ifndef PANDREL_PASSES_PROCEDURE_NAMES_H
 #define PANDREL_PASSES_PROCEDURE_NAMES_H
 
-// Gives each procedure that is named like an instance a capital first letter, in place, so that the
-// calls show the new name too, and tells so on standard error. The new name is not looked up again.
-// Does nothing where the module is meant for the builder, which sorts the names out by itself.
+// Gives each procedure that has the name of a widget a capital first letter, in place, so that
+// calls show it too, and says so on standard error. Does not check the new name. Does nothing when
+// the module is meant for the builder, which resolves such clashes by itself.
 void FixProcedureNames();
 
 #endif

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "text/uil_text.h"
 
-#include <charconv>
-#include <cstdio>
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
+#include <string>
+#include <string_view>
 
 #include "osi/arena.h"
 #include "osi/fatal.h"
@@ -14,51 +15,30 @@
 static constexpr int32_t kFirstSerial = 99;
 static int32_t serial = kFirstSerial;
 
-static constexpr std::size_t kInt32Digits = 11;  // "-2147483648"
-
 char* JoinTexts(const char* before, const char* text, const char* after,
                 const char* out_of_memory) {
-  const std::size_t before_length = OsiStrlen(before);
-  const std::size_t text_length = OsiStrlen(text);
-  const std::size_t after_length = OsiStrlen(after);
-  char* joined = ArenaTextBlock(before_length + text_length + after_length + 1);
+  const std::string_view parts[] = {before ? before : "", text ? text : "", after ? after : ""};
+  char* joined = ArenaTextBlock(parts[0].size() + parts[1].size() + parts[2].size() + 1);
   if (!joined) Error(out_of_memory);
   char* end = joined;
-  if (before_length) std::memcpy(end, before, before_length);
-  end += before_length;
-  if (text_length) std::memcpy(end, text, text_length);
-  end += text_length;
-  if (after_length) std::memcpy(end, after, after_length);
-  end[after_length] = '\0';
+  for (std::string_view part : parts) end = std::copy(part.begin(), part.end(), end);
+  *end = '\0';
   return joined;
 }
 
-// Writes the digits of `number` and a NUL into `buffer`; returns their count.
-static std::size_t FormatInt(int32_t number, char (&buffer)[kInt32Digits + 1]) {
-  char* end = std::to_chars(buffer, buffer + kInt32Digits, number).ptr;
-  *end = '\0';
-  return static_cast<std::size_t>(end - buffer);
-}
-
 char* IntToString(int32_t number) {
-  char digits[kInt32Digits + 1];
-  char* text = ArenaText(digits, FormatInt(number, digits));
+  const std::string digits = std::to_string(number);
+  char* text = ArenaText(digits.data(), digits.size());
   if (!text) Error("Out of memory in IntToString");
   return text;
 }
 
 int32_t StringToInt(const char* text) {
-  if (!text) return 0;
-  // Mostly a number that we wrote ourselves.
-  int32_t number = 0;
-  if (std::from_chars(text, text + std::strlen(text), number).ec == std::errc()) return number;
-  return static_cast<int32_t>(std::strtol(text, nullptr, 10));
+  return text ? static_cast<int32_t>(std::strtol(text, nullptr, 10)) : 0;
 }
 
 char* IntToQuotedString(int32_t number) {
-  char digits[kInt32Digits + 1];
-  FormatInt(number, digits);
-  return JoinTexts("\"", digits, "\"", "Out of memory in IntToString");
+  return JoinTexts("\"", std::to_string(number).c_str(), "\"", "Out of memory in IntToString");
 }
 
 char* MakeQuotedString(const char* text) {
@@ -74,17 +54,11 @@ char* MergeStrings(const char* a, const char* b) {
 }
 
 char* MergeStringsUnique(const char* a, const char* b) {
-  char digits[kInt32Digits + 1];
-  FormatInt(++serial, digits);
-  return JoinTexts(a, b, digits, "Out of memory in MergeStringsUnique");
+  return JoinTexts(a, b, std::to_string(++serial).c_str(), "Out of memory in MergeStringsUnique");
 }
 
 std::size_t CountNewlines(const char* text) {
-  std::size_t count = 0;
-  if (text) {
-    for (; *text; ++text) count += *text == '\n';
-  }
-  return count;
+  return text ? static_cast<std::size_t>(std::count(text, text + std::strlen(text), '\n')) : 0;
 }
 
 char* ReplaceNewlines(const char* text) {
@@ -106,10 +80,9 @@ char* ReplaceNewlines(const char* text) {
 
 char* ReplaceTrailingDigit(char* text) {
   const std::size_t length = OsiStrlen(text);
-  if (length > 0) {
-    char& last = text[length - 1];
-    if (last >= '0' && last <= '8') last = static_cast<char>(last + ('A' - '0'));
-  }
+  if (length == 0) return text;
+  char& last = text[length - 1];
+  if (last >= '0' && last <= '8') last = static_cast<char>(last + ('A' - '0'));
   return text;
 }
 
@@ -126,7 +99,7 @@ char* RemoveQuotes(char* text) {
   const std::size_t length = OsiStrlen(text);
   if (length == 0) return text;
   if (text[length - 1] == '"') text[length - 1] = '\0';
-  // A text that was a single quote is empty by now.
+  // A text of one quote is empty by now.
   return *text == '"' ? text + 1 : text;
 }
 

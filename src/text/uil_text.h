@@ -1,17 +1,15 @@
 // SPDX-License-Identifier: MIT
-// The small helpers that build UIL values and widget names: literals, names with suffixes,
-// clean-ups of texts from the interface file. A leaf that any folder may use. Every new text comes
-// from the arena and lives as long as the conversion; no helper frees its arguments, and a null
-// text counts as empty. A helper that cannot get memory ends the run through Error and names
-// itself.
+// Small helpers that build UIL values and widget names: literals, names with suffixes, clean-ups of
+// texts from the interface file. A leaf that any folder may use. Every new text comes from the
+// arena and lives as long as the conversion. No helper frees its arguments; a null text counts as
+// empty. A helper that cannot get memory ends the run through Error and names itself.
 #ifndef PANDREL_TEXT_UIL_TEXT_H
 #define PANDREL_TEXT_UIL_TEXT_H
 
 #include <cstddef>
 #include <cstdint>
 
-// The decimal text of `number`, in the arena like all these texts; OsiIntToStr gives one that its
-// caller frees.
+// The decimal text of `number`. (The text of OsiIntToStr is not in the arena: its caller frees it.)
 char* IntToString(int32_t number);
 
 // The number at the start of `text` as atoi reads it: 0 when there is none.
@@ -33,33 +31,32 @@ char* MergeStrings(const char* a, const char* b);
 // `a`, `b` and a serial number that is 100 on the first call of a conversion and rises by one.
 char* MergeStringsUnique(const char* a, const char* b);
 
-// `before`, `text` and `after` joined; when memory runs out, Error(`out_of_memory`). The other
-// formatting helpers are made of it.
+// `before`, `text` and `after` joined; when memory runs out, Error(`out_of_memory`). Most of the
+// other helpers call it.
 char* JoinTexts(const char* before, const char* text, const char* after, const char* out_of_memory);
 
-// A copy in which every newline is the two characters backslash and n, so that the text can stand
-// in a UIL string literal; null for null.
+// A copy with a backslash and an "n" in the place of every newline, as in a UIL string literal;
+// null for null.
 char* ReplaceNewlines(const char* text);
 
 // How many newline characters `text` holds.
 std::size_t CountNewlines(const char* text);
 
-// Turns a last character 0..8 into the letter 17 code points higher (A..I), in place; a final 9 and
-// any other character stay. Returns `text`.
+// Replaces a last character 0 to 8 by a letter A to I, in place; a last 9 and any other character
+// stay. Returns `text`.
 char* ReplaceTrailingDigit(char* text);
 
-// A copy cut at the last "." wherever that stands (also in a directory name).
+// A copy cut at the last ".", even when that is in a directory name.
 char* FilenameWithoutExtension(const char* path);
 
 // The address of the terminating NUL; null for null.
 char* EndOfString(char* text);
 
-// Removes one double quote at the end (overwritten) and one at the start (stepped over), in the
-// caller's buffer; returns the pointer to what is left.
+// Overwrites a double quote at the end of the caller's buffer with a NUL, and returns the rest of
+// the buffer behind a double quote at its start.
 char* RemoveQuotes(char* text);
 
-// strncmp with a null text counting as empty: OsiStrncmp under the name that the helpers of UIL
-// texts give it.
+// OsiStrncmp, under the name that users of these helpers know.
 int IbStrncmp(const char* a, const char* b, std::size_t length);
 
 // Starts the serial numbers of MergeStringsUnique anew.

@@ -2,6 +2,7 @@
 #include "uil/writer.h"
 
 #include <cstddef>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,7 +14,7 @@
 
 namespace {
 
-// The text is gathered here and written in large pieces.
+// Output gathers here, to be written in large pieces.
 std::string text;
 constexpr std::size_t kPieceSize = 64 * 1024;
 std::FILE* output = nullptr;
@@ -23,18 +24,12 @@ void Flush() {
   text.clear();
 }
 
-void Put(std::string_view part) { text += part; }
-
-void PutText(const char* part) {
-  if (part) Put(part);
+void Put(std::initializer_list<std::string_view> parts) {
+  for (std::string_view part : parts) text += part;
 }
 
-// A line of an object, or the first part of one. The mark is what each line of an object that
-// stands as a comment begins with.
-void PutLine(std::string_view mark, std::string_view part) {
-  if (!mark.empty()) Put(mark);
-  Put(part);
-}
+// A text that may be missing.
+std::string_view Optional(const char* part) { return part ? part : ""; }
 
 bool IsShell(const Widg* widg) {
   return IsClass(widg, "TopLevelShell") || IsClass(widg, "XmDialogShell");
@@ -42,126 +37,81 @@ bool IsShell(const Widg* widg) {
 
 bool IsWritten(const Widg* widg) { return OsiStrlen(widg->class_name) > 0; }
 
-// UIL has no shells: they stand in the module as comments, which the builder knows by its own mark.
+// UIL has no shells. They stand in the module as comments: each of their lines begins with a mark,
+// which the builder knows. All other lines begin with the empty mark.
 std::string_view ShellMark() { return usezo ? "!(ZO)" : "!"; }
 
-// Without the builder's mark the comments serve only the reader and may be left out.
+// Without the builder only people read the comments, so they may be left out.
 bool OmitShells() { return !usezo && nocomments; }
-
-void GenStdHeader() {
-  Put("module Pandrel\n"
-      "names = case_sensitive\n"
-      "\n");
-}
-
-void GenStdFooter() { Put("\nend module;"); }
 
 void GenProcedures() {
   char** procedures = nullptr;
   const std::size_t count = GetProcedures(&procedures);
-  for (std::size_t i = 0; i < count; ++i) {
-    Put("procedure ");
-    PutText(procedures[i]);
-    Put(";\n");
-  }
-  Put("\n");
+  for (std::size_t i = 0; i < count; ++i) Put({"procedure ", procedures[i], ";\n"});
+  Put({"\n"});
 }
 
 void GenControls(const Widg* widg, std::string_view mark) {
-  PutLine(mark, "\tcontrols {\n");
+  Put({mark, "\tcontrols {\n"});
   for (const Widg* child = widg->child; child; child = child->next) {
     if (!IsWritten(child)) continue;
     const bool marked = mark.empty() && IsShell(child);
     if (marked && OmitShells()) continue;
-    PutLine(marked ? ShellMark() : mark, "\t\t");
-    if (!child->managed) Put("unmanaged ");
-    PutText(child->class_name);
-    Put(" ");
-    PutText(child->name);
-    Put(";\n");
+    Put({marked ? ShellMark() : mark, "\t\t", child->managed ? "" : "unmanaged ", child->class_name,
+         " ", child->name, ";\n"});
   }
-  PutLine(mark, "\t\t};\n");
+  Put({mark, "\t\t};\n"});
 }
 
 void GenArguments(const Widg* widg, std::string_view mark) {
-  PutLine(mark, "\targuments {\n");
+  Put({mark, "\targuments {\n"});
   for (const Resource* resource = widg->resources; resource; resource = resource->next) {
-    // Carries the glyph's file name between the steps of the conversion; no resource of Motif's.
+    // Motif has no such resource; it is how steps of the conversion pass on a glyph's file name.
     if (OsiStrcmp(resource->name, "XmNoriginalPixmapName") == 0) continue;
-    PutLine(mark, "\t\t");
-    PutText(resource->name);
-    Put(" = ");
-    PutText(resource->value);
-    Put(";\n");
+    Put({mark, "\t\t", resource->name, " = ", Optional(resource->value), ";\n"});
   }
-  PutLine(mark, "\t\t};\n");
+  Put({mark, "\t\t};\n"});
 }
 
-void PutCall(const Callback* callback) {
-  PutText(callback->procedure);
-  Put("(");
-  PutText(callback->argument);
-  Put(")");
-}
-
-// Several callbacks stand in one list under the name of the first, whatever their own: the builder
+// Puts several callbacks in one list under the name of the first, whatever their own: the builder
 // reads no second list.
 void GenProcedureList(const Callback* callbacks, std::string_view mark) {
-  PutLine(mark, "\t\t");
-  PutText(callbacks->callback_name);
-  Put(" = procedures {\n");
+  Put({mark, "\t\t", callbacks->callback_name, " = procedures {\n"});
   for (const Callback* callback = callbacks; callback; callback = callback->next) {
-    PutLine(mark, "\t\t\t");
-    PutCall(callback);
-    Put(";\n");
+    Put({mark, "\t\t\t", callback->procedure, "(", Optional(callback->argument), ");\n"});
   }
-  PutLine(mark, "\t\t\t};\n");
-  PutLine(mark, "\n");
-  PutLine(mark, "};\n");
+  Put({mark, "\t\t\t};\n", mark, "\n", mark, "};\n"});
 }
 
 // Ends the object, too: where its closing brace stands depends on the callbacks.
 void GenCallbacks(const Widg* widg, std::string_view mark) {
-  PutLine(mark, "\tcallbacks {\n");
+  Put({mark, "\tcallbacks {\n"});
   const Callback* callbacks = widg->callbacks;
   if (!callbacks) {
-    PutLine(mark, "\t\t};\n");
-    Put("\n");
-    PutLine(mark, "\t};\n");
-    Put("\n");
+    Put({mark, "\t\t};\n\n", mark, "\t};\n\n"});
     return;
   }
   if (callbacks->next) {
     GenProcedureList(callbacks, mark);
   } else {
-    PutLine(mark, "\t\t");
-    PutText(callbacks->callback_name);
-    Put(" = procedure ");
-    PutCall(callbacks);
-    Put(";\n");
-    PutLine(mark, "\t\t};\n");
+    Put({mark, "\t\t", callbacks->callback_name, " = procedure ", callbacks->procedure, "(",
+         Optional(callbacks->argument), ");\n", mark, "\t\t};\n"});
   }
-  PutLine(mark, "};\n");
-  Put("\n");
+  Put({mark, "};\n\n"});
 }
 
 void GenObject(const Widg* widg) {
   if (IsShell(widg) && OmitShells()) return;
   const std::string_view mark = IsShell(widg) ? ShellMark() : "";
-  PutLine(mark, "object\n");
-  Put(mark);
-  PutText(widg->name);
-  Put(":");
-  PutText(widg->class_name);
-  Put("{\n");
+  Put({mark, "object\n", mark, widg->name, ":", widg->class_name, "{\n"});
   GenControls(widg, mark);
   GenArguments(widg, mark);
   GenCallbacks(widg, mark);
   if (text.size() > kPieceSize) Flush();
 }
 
-// Writes the objects below the widget, then its own. A widget is written once, where it is met
-// first; one without a class hides all that is below it.
+// Writes the objects below the widget, then its own. Writes each widget once, where it comes first,
+// and nothing of a widget without a class or below one.
 void GenUILForWidg(Widg* widg) {
   struct Frame {
     Widg* widg;
@@ -190,10 +140,12 @@ void GenUILForWidg(Widg* widg) {
 
 void GenUILForWidgHierarchy(Widg* top, std::FILE* stream) {
   output = stream;
-  GenStdHeader();
+  Put(
+      {"module Pandrel\n"
+       "names = case_sensitive\n"
+       "\n"});
   GenProcedures();
   for (Widg* widg = top; widg; widg = widg->next) GenUILForWidg(widg);
-  GenStdFooter();
-  Put("\n\n");
+  Put({"\nend module;\n\n"});
   Flush();
 }

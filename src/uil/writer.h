@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The writer: the widget tree as one UIL module. It alone knows about tabs, blank lines and the
-// marks that turn lines into comments; values arrive ready-made. The layout is exact, since a GUI
+// marks that turn lines into comments; values come ready-made. The layout is exact, since a GUI
 // builder reads modules back and users compare them. Equal trees give equal bytes.
 #ifndef PANDREL_UIL_WRITER_H
 #define PANDREL_UIL_WRITER_H
@@ -10,7 +10,8 @@
 struct Widg;
 
 // Writes the module: head, one declaration for each procedure of the procedure list, the objects of
-// the top-level list, foot. Write errors are left for the caller to find on the stream.
+// the top-level list, foot. Marks the widgets as written. The caller finds write errors on the
+// stream.
 void GenUILForWidgHierarchy(Widg* top, std::FILE* output);
 
 #endif

@@ -11,7 +11,7 @@ static bool AreSame(const Callback& a, const Callback& b) {
 }
 
 void AddCallback(Widg* widg, const char* callback_name, char* procedure, const char* argument) {
-  // Declared even when the callback turns out to be there already.
+  // Declare the procedure even when the widget has the callback already.
   InsertProcedure(procedure);
   const Callback wanted = {nullptr, callback_name, procedure, argument};
   Callback** link = &widg->callbacks;
@@ -29,7 +29,7 @@ void MoveCallback(Widg* from, Widg* to, const char* callback_name) {
       link = &callback->next;
       continue;
     }
-    // Added before it is unlinked: where the two widgets share a list it is found there already.
+    // Add it before unlinking it: if the two widgets share a list, it is there already.
     AddCallback(to, callback->callback_name, callback->procedure, callback->argument);
     *link = callback->next;
   }

@@ -5,8 +5,8 @@
 
 struct Widg;
 
-// Enters the procedure in the procedure list and appends a callback, unless the widget has one with
-// all three texts equal. The texts are shared, not copied.
+// Enters the procedure in the procedure list, and appends a callback unless the widget has one with
+// the same three texts. The texts are shared, not copied.
 void AddCallback(Widg* widg, const char* callback_name, char* procedure, const char* argument);
 
 // Moves every callback of that name; those that stay keep their order. Does nothing for null.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A guard for walks from a widget up. It ends the climb at a widget that the climb has stood on
+// A guard for walks from a widget up. It ends the climb at a widget that the climb has visited
 // before, which happens when a widget lies below itself.
 #ifndef PANDREL_WIDGET_CLIMB_H
 #define PANDREL_WIDGET_CLIMB_H
@@ -11,7 +11,7 @@ struct Widg;
 
 class Climb {
  public:
-  // Whether this climb has not stood on the widget before; remembers it.
+  // Whether this climb has not visited the widget before; marks it as visited.
   bool IsNew(const Widg* widg) {
     if (std::find(path_.begin(), path_.end(), widg) != path_.end()) return false;
     path_.push_back(widg);

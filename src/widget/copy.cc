@@ -32,8 +32,8 @@ static Widg* CopySiblings(Widg* first) {
   return copies;
 }
 
-// Copies what is below `widg` under its copy, level by level. A widget that lies below itself ends
-// the descent where it comes up again: its copy would have no end.
+// Copies what is below `widg` under its copy, level by level. Stops at a widget that lies below
+// itself when it comes to that widget again: the copy would have no end.
 static void CopyDescendants(Widg* widg, Widg* copy) {
   std::unordered_set<const Widg*> copied;
   while (widg->child && copied.insert(widg).second) {

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-// Copying widgets. A copy gets an instance name of its own and shares the lists of resources and
-// callbacks with its original: to change a resource of the one is to change it for both, and to
-// append to a list that is not empty appends to both.
+// Copies widgets. A copy gets an instance name of its own and shares the lists of resources and
+// callbacks with its original: to change a resource of one widget changes it for both, and to
+// append to a list that is not empty appends for both.
 #ifndef PANDREL_WIDGET_COPY_H
 #define PANDREL_WIDGET_COPY_H
 
 struct Widg;
 
-// The widget alone: no children, no siblings, no GIL geometry. The new name is asked for in the
-// original's gil_name, which therefore loses its capital first letter and what is cut.
+// The widget alone: no children, no siblings, no GIL geometry. The new name is made in the
+// original's gil_name, which therefore gets a small first letter and may be cut.
 Widg* CopyWidg(Widg* widg);
 
 // The widget with a copy of what is below it.

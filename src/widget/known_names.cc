@@ -13,7 +13,7 @@
 
 namespace {
 
-Widg unknown;  // in the place of a widget: a search must tell
+Widg unknown;  // in the place of a widget: only a search can tell
 
 // What a search finds for one name. The first widget of the top level wins, then the first below.
 struct Answer {
@@ -21,7 +21,7 @@ struct Answer {
   Widg* below = nullptr;
 };
 
-// Texts of names change in place, so the table has copies.
+// The table has copies of names, since their texts change in place.
 struct KnownNames {
   std::unordered_map<std::string, Answer> answers;  // a name that is missing is not in the tree
   // The first widget of each name that has a child; good until something moves.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Moving widgets from place to place, and putting a new one between a parent and its children.
+// Moves widgets from one parent to another, and puts new ones between a parent and its children.
 #ifndef PANDREL_WIDGET_NESTING_H
 #define PANDREL_WIDGET_NESTING_H
 
@@ -16,8 +16,8 @@ Widg* RemoveWidg(Widg* tree, Widg* widg);
 void MoveWidgetInHierarchy(Widg* widg, Widg* old_parent, Widg* new_parent);
 
 // Takes the child out of the parent's list and makes it the only child of `new_parent`, which takes
-// over its position; the caller links `new_parent`. A line on standard error and no change when the
-// child is none of the parent's.
+// over its position; the caller links `new_parent`. Writes a line on standard error and changes
+// nothing when the child is not in the parent's list.
 void MakeSubHier(Widg* parent, Widg* child, Widg* new_parent);
 
 // Makes a new widget the only child of `widg`; it adopts the former children and gets copies of the

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Searching by going through the tree. What is known of names (widget/known_names.h) must give the
-// same answers; where nothing is known, these give them.
+// Searches by walking the tree. The cache of names (widget/known_names.h) must give the same
+// answers; these give them for names that it does not have.
 #ifndef PANDREL_WIDGET_PLAIN_SEARCH_H
 #define PANDREL_WIDGET_PLAIN_SEARCH_H
 
@@ -12,12 +12,12 @@
 // A number that no widget's `visit` field holds: the mark of a new search. Never 0.
 uint32_t NewVisit();
 
-// The first widget in search order that `Matches` holds for, or null. The search stays out of lists
-// from a widget on for which `MayEnter` does not hold.
+// The first widget in search order for which `Matches` holds, or null. The search leaves a list at
+// a widget for which `MayEnter` does not hold.
 //
-// Each widget is visited once. That finds what a search with a guard against its own path alone
-// would find: whatever stands behind a widget that was visited on another way was tested then, or
-// waits on the path and will be.
+// It visits each widget once. That finds the same as a guard against only the current path: the
+// widgets behind one that was visited on another way were tested then, or wait on the path and will
+// be.
 template <typename Enter, typename Predicate>
 Widg* FindFirst(Widg* tree, uint32_t visit, Enter MayEnter, Predicate Matches) {
   std::vector<Widg*> children = {tree};  // child lists that wait; the last one comes first

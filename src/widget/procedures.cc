@@ -9,7 +9,7 @@
 #include "osi/strings.h"
 
 static std::vector<char*, OsiAllocator<char*>> procedures;
-// The same by text. An entry whose procedure has another text by now counts for nothing.
+// The same by text. An entry whose procedure has another text by now does not count.
 static std::unordered_map<std::string, char*> by_text;
 
 static std::string Key(const char* text) { return text ? text : ""; }
@@ -29,7 +29,7 @@ void ProcedureTextChanged(char* text, const std::string& former) {
   const auto known = by_text.find(former);
   if (known == by_text.end() || known->second != text || former == Key(text)) return;
   if (AlreadyInProcList(text)) {
-    // Two have the same text now; the one that came first declares it.
+    // Two have the same text now; the first one declares it.
     const auto IsSame = [text](const char* other) { return OsiStrcmp(other, text) == 0; };
     const auto first = std::find_if(procedures.begin(), procedures.end(), IsSame);
     procedures.erase(std::find_if(first + 1, procedures.end(), IsSame));

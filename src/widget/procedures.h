@@ -12,8 +12,8 @@ void InsertProcedure(char* procedure);
 // Whether an equal text is in the list.
 bool AlreadyInProcList(const char* procedure);
 
-// Tells the list that a text, which may be that of a procedure, was `former` and has changed in
-// place, so that it is found under its new text.
+// Tells the list that a text, perhaps that of a procedure, has changed in place and was `former`,
+// so that the list finds it under its new text.
 void ProcedureTextChanged(char* text, const std::string& former);
 
 // Stores the address of the first entry in *procedures (valid until the next insertion) and returns

@@ -10,7 +10,7 @@ static SearchChecker check_search = nullptr;
 
 void SetSearchChecker(SearchChecker checker) { check_search = checker; }
 
-// The result of a search. `Plainly` gives what going through the tree finds.
+// The result of a search. `Plainly` finds the same by walking the tree.
 template <typename Search>
 static Widg* Checked(Widg* found, Search Plainly) {
   if (check_search) check_search(found, Plainly);

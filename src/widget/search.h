@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Finding widgets, by GIL name and by identity.
+// Finds widgets, by GIL name and by identity.
 //
 // note [search order]
-// A search tests a widget, then everything to its right with what hangs below it, and only then its
-// own children. A later top-level widget therefore wins over a child of the first:
+// A search tests a widget, then its later siblings with all below them, and only then its own
+// children. A later top-level widget therefore wins over a child of the first:
 //   shell1(item) item      -> FindWidg("item") is the top-level one
-// A widget that can be reached on two ways is tested on the first. A widget that is linked into its
-// own subtree does not make a search run for ever.
+// A widget on two paths is tested on the first. A search also ends when a widget is linked into its
+// own subtree.
 #ifndef PANDREL_WIDGET_SEARCH_H
 #define PANDREL_WIDGET_SEARCH_H
 
@@ -20,7 +20,7 @@ Widg* FindWidg(Widg* tree, const char* name);
 Widg* FindWidgWithChild(Widg* tree, const char* name);
 
 // The first widget whose own child list holds `widg`, or null for a widget that is top-level or in
-// no list. The widget is in the tree or in no list at all.
+// no list. Call it for a widget that is in the tree or in no list.
 Widg* FindParentOfWidg(Widg* tree, Widg* widg);
 
 #endif

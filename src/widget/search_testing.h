@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// For tests and fuzzers: a look at every search that was answered from what is known of names.
+// For tests and fuzzers: checks every search that was answered from the cache of names.
 #ifndef PANDREL_WIDGET_SEARCH_TESTING_H
 #define PANDREL_WIDGET_SEARCH_TESTING_H
 
@@ -7,7 +7,7 @@
 
 struct Widg;
 
-// Called with what a search found and a function that goes through the tree for the same.
+// Called with the result of a search and a function that searches for the same by walking the tree.
 using SearchChecker = void (*)(const Widg* found, const std::function<Widg*()>& Plainly);
 
 // From now on every such search is checked; null ends that.

@@ -12,7 +12,7 @@
 
 Widg* top_widget = nullptr;
 
-// Lengths of instance names: what is longer than the first is cut to the second.
+// A name longer than kLongestName is cut to kCutName characters.
 static constexpr std::size_t kLongestName = 31;
 static constexpr std::size_t kCutName = 30;
 

@@ -5,8 +5,8 @@
 // Records live in the arena until the conversion ends and are never freed. Texts are shared,
 // writable buffers: a widget keeps the caller's pointers, copies of a widget share its lists, and a
 // change in place shows everywhere. While a file is being converted a widget may stand in two lists
-// at once (a menu that a button has claimed is still in the top-level list), so nothing may take
-// the links for a tree: every walk that goes down guards itself (widget/search.h).
+// at once (a menu that a button has claimed is still in the top-level list), so the links are not
+// always a tree: every walk down has a guard (widget/walk.h, widget/plain_search.h).
 #ifndef PANDREL_WIDGET_TREE_H
 #define PANDREL_WIDGET_TREE_H
 
@@ -21,7 +21,7 @@ struct Widg;
 struct Resource {
   Resource* next;
   const char* name;   // "XmNwidth"
-  const char* value;  // as it stands in UIL behind " = "
+  const char* value;  // as it is in UIL behind " = "
 };
 
 // One callback procedure. No text is copied.
@@ -29,7 +29,7 @@ struct Callback {
   Callback* next;
   const char* callback_name;  // "XmNactivateCallback"
   char* procedure;            // shared with the procedure list, whose user may capitalise it
-  const char* argument;       // what stands between the parentheses, maybe nothing
+  const char* argument;       // the text between the parentheses, maybe empty
 };
 
 struct Widg {
@@ -42,16 +42,16 @@ struct Widg {
   Resource* resources;                // in the order in which each name was first set
   Action* actions;                    // of the GIL object; null for companions
   int32_t managed;                    // 0: listed as "unmanaged" by its parent
-  int32_t wrapped;                    // 1: a companion made for its sake stands around it
+  int32_t wrapped;                    // 1: a companion was made around it
   int32_t x, y, width, height;        // of the GIL object, in pixels; 0 when unknown
   int32_t generated;                  // 1: written already
   int32_t extra_width, extra_height;  // pixels that Motif needs beyond the GIL size
 
-  uint32_t walk;  // mark of the last walk that came here (widget/walk.h)
+  uint32_t walk;  // mark of the last walk that visited it (widget/walk.h)
 
   // What searches know of the widget: note [what searches know] in widget/known_names.h.
-  Widg* parent;    // whose list of children the widget came into first; null: nobody's
-  uint32_t visit;  // mark of the last search that came here; 0: the widget was never in the tree
+  Widg* parent;    // the first widget that had it in its list of children; null: none
+  uint32_t visit;  // mark of the last search that visited it; 0: it was never in the tree
   bool top_level;  // in the list of top_widget
   bool shared;     // in more than one list of children
 };
@@ -82,7 +82,8 @@ Widg* LastSibling(Widg* widg);
 // 1 when `widg` is in the parent's child list; 0 also when either is null.
 int IsChild(const Widg* parent, const Widg* widg);
 
-// Sets a resource: replaces the value where the name stands already, else appends.
+// Sets a resource: replaces the value if the widget has the resource, else appends it. Neither text
+// is copied.
 void AddResource(Widg* widg, const char* name, const char* value);
 
 // The value of the first resource of that name, "" when there is none; never null.
@@ -94,8 +95,8 @@ bool HasResource(const Widg* widg, const char* name);
 // The value as atoi reads it: 0 for an absent resource.
 int32_t GetResourceInt(const Widg* widg, const char* name);
 
-// Unlinks the first resource of that name. The record keeps its `next`: another widget whose list
-// head it is still sees it and what follows.
+// Unlinks the first resource of that name. The record keeps its `next`, so another widget whose
+// list begins with it still has it and what follows.
 void RemoveResource(Widg* widg, const char* name);
 
 // Moves a resource that is not empty from one widget to another.

@@ -3,10 +3,9 @@
 // child and next sibling, but without its stack.
 //
 // note [a widget on two paths]
-// A menu that two buttons share is reached twice and handled twice. Only a widget that lies below
-// itself is passed over where it comes up again. Menus that share sub-menus level by level have
-// more paths than anybody can walk; after kMaxRepeats repeated visits a walk passes over what it
-// has seen:
+// A menu that two buttons share is visited twice and handled twice. A walk only skips a widget that
+// is on its current path, below itself. Menus that share sub-menus level by level have too many
+// paths, so after kMaxRepeats repeated visits a walk skips all widgets that it has visited:
 //   m1 -> (m2, m2), m2 -> (m3, m3), ... m40: 2 to the 40th paths
 #ifndef PANDREL_WIDGET_WALK_H
 #define PANDREL_WIDGET_WALK_H
@@ -20,10 +19,10 @@
 
 constexpr std::size_t kMaxRepeats = 10000000;
 
-// What a walk allows: kMaxRepeats, but where a fuzzer wants less (widget/walk_testing.h).
+// The limit of a walk: kMaxRepeats, or less in a fuzzer (widget/walk_testing.h).
 std::size_t MaxRepeats();
 
-// What a recursive function would do, one after the other, once it stands on a widget.
+// What a recursive function would do at a widget, in the order of these steps.
 enum class WalkStep : uint8_t { kSelf, kChild, kNext };
 using WalkOrder = std::array<WalkStep, 3>;
 
@@ -67,7 +66,7 @@ void WalkWidgets(Widg* first, const WalkOrder& order, Enter MayEnter, Handler Ha
         Visit(widg->child);
         break;
       case WalkStep::kNext:
-        // The last thing a recursion does needs no way back.
+        // Nothing follows the last step, so the frame can go.
         if (step + 1 == order.size()) {
           widg->walk = seen;
           path.pop_back();

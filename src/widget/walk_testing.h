@@ -5,7 +5,7 @@
 
 #include <cstddef>
 
-// Walks from now on give up after so many repeats.
+// From now on, walks visit no widget again after this many repeated visits.
 void LimitRepeats(std::size_t max_repeats);
 
 #endif

@@ -10,6 +10,15 @@ using ValueTest = SessionFixture;
 
 static Value* Str(const char* text) { return stringValue(1, text, std::strlen(text)); }
 
+TEST_F(ValueTest, TakingAValueTakesTheAttributeOffTheObject) {
+  Value* value = Str("\"Ok\"");
+  Obj* obj = makeObj(BUTTON, makeAttr(LABEL, value), nullptr);
+  EXPECT_EQ(PeekValue(obj, LABEL), value);
+  EXPECT_EQ(TakeValue(obj, LABEL), value);
+  EXPECT_EQ(TakeValue(obj, LABEL), nullptr);
+  EXPECT_EQ(PeekValue(obj, LABEL), nullptr);
+}
+
 TEST_F(ValueTest, TextIsShared) {
   Value* value = Str("name");
   EXPECT_EQ(ValueText(value), value->sval);

@@ -66,20 +66,20 @@ TEST_F(LayoutGeometry, SumsWrapTo32Bits) {
 TEST_F(LayoutGeometry, EveryWidgetMovesRightAndThoseBelowMoveDown) {
   Widg* above = At(NewWidg("XmLabel", "a"), 1, 30, 0, 0);
   Widg* below = At(NewWidg("XmLabel", "b"), 2, 31, 0, 0);
-  MoveWidgsToFit(Siblings({above, below}), 1000, 30, 5, 22);
+  MoveWidgsToFit(Siblings({above, below}), 30, 5, 22);
   EXPECT_EQ(Resources(above), "XmNx=6 XmNy=30 XmNwidth=0 XmNheight=0");
   EXPECT_EQ(Resources(below), "XmNx=7 XmNy=53 XmNwidth=0 XmNheight=0");
 }
 
 TEST_F(LayoutGeometry, WidgetWithoutAPositionGetsOne) {
   Widg* widg = NewWidg("XmLabel", "a");
-  MoveWidgsToFit(widg, 0, 10, 0, 5);
+  MoveWidgsToFit(widg, 10, 0, 5);
   EXPECT_EQ(Resources(widg), "XmNx=0");
 }
 
 TEST_F(LayoutGeometry, MovesWrapTo32Bits) {
   Widg* widg = With(NewWidg("XmLabel", "a"), {{"XmNx", "2147483647"}, {"XmNy", "2147483647"}});
-  MoveWidgsToFit(widg, 0, 0, 1, 1);
+  MoveWidgsToFit(widg, 0, 1, 1);
   EXPECT_EQ(Resources(widg), "XmNx=-2147483648 XmNy=-2147483648");
 }
 
