@@ -72,7 +72,7 @@ class Port:
         self.build()
 
     def build(self):
-        build(self.folder, "CFLAGS=-O0 -Wall -Wextra -Werror")
+        build(self.folder, "CFLAGS=-O0 -g -Wall -Wextra -Werror")
 
     @property
     def name(self):
@@ -88,6 +88,7 @@ class Port:
             env=self.server.environment(self.programs)).stdout
         return {widget.name: widget for widget in parse_listing(listing)}
 
-    def start(self):
-        return Viewer(self.server, self.programs, program=self.folder / self.name,
-                      folder=self.folder)
+    def start(self, *tool):
+        """Runs the program, by `tool` (a program and its arguments) when one is given."""
+        program, *arguments = [*tool, self.folder / self.name]
+        return Viewer(self.server, self.programs, *arguments, program=program, folder=self.folder)
