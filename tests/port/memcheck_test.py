@@ -32,7 +32,7 @@ class Memcheck(unittest.TestCase):
         return Port(self.server, PROGRAMS, self.scratch / "app", source=source)
 
     def start(self, port):
-        return self.enterContext(port.start(*VALGRIND))
+        return self.enterContext(port.start(tool=VALGRIND))
 
     def end(self, program):
         """Closes every window; returns the status and what valgrind said."""
@@ -60,8 +60,14 @@ class Memcheck(unittest.TestCase):
         if not CORPUS.is_dir():
             self.skipTest("the folder of real interfaces is not there")
         fax = self.port(CORPUS / "faxtool.G")
+        places = fax.widgets()
         program = self.start(fax)
-        program.wait_for_window(".*")
+        program.wait_for_window("Fax Tool")
+        program.click("Fax Tool", places["props_button"])
+        program.wait_for_window("Fax Tool - Properties")
+        self.server.xdotool("windowraise", program.wait_for_window("Fax Tool"))
+        program.click("Fax Tool", places["send_button"])
+        self.assertIsNotNone(program.line())
         self.assertEqual(self.end(program), (0, ""))
 
     def test_notices_an_error_in_a_callback(self):

@@ -79,16 +79,17 @@ class Port:
         return next(self.folder.glob("*.uil")).stem
 
     def widgets(self):
-        """The widgets with their places, by name."""
+        """The widgets with their places, by name. That one reaches out of its window, which the
+        viewer's status tells, is no matter here."""
         resources = next(self.folder.glob("*.ad"))
         listing = subprocess.run(
             [str(find(self.programs, "pandrel-view")), "--list", "--all", "--no-fix",
              "--resources", str(resources), str(self.folder / f"{self.name}.uil")],
-            check=True, capture_output=True, text=True, timeout=SECONDS,
+            check=False, capture_output=True, text=True, timeout=SECONDS,
             env=self.server.environment(self.programs)).stdout
         return {widget.name: widget for widget in parse_listing(listing)}
 
-    def start(self, *tool):
+    def start(self, *arguments, tool=()):
         """Runs the program, by `tool` (a program and its arguments) when one is given."""
-        program, *arguments = [*tool, self.folder / self.name]
-        return Viewer(self.server, self.programs, *arguments, program=program, folder=self.folder)
+        program, *rest = [*tool, self.folder / self.name, *arguments]
+        return Viewer(self.server, self.programs, *rest, program=program, folder=self.folder)
