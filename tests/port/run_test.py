@@ -168,6 +168,66 @@ class Panels(RunTest):
                 self.assertEqual(program.line(), called)
 
 
+class Drops(RunTest):
+    """A message that can be dragged, and what takes drops: a list, and a target that the conversion
+    leaves out."""
+    TEXT = """;GIL-3
+(
+( :type :base-window :name win :owner nil :label "Drops" :width 300 :height 200 )
+( :type :control-area :name area :owner win :x 0 :y 0 :width 300 :height 200 )
+( :type :message :name note :owner area :x 10 :y 10 :width 80 :height 13 :label "drag me"
+  :label-type :string )
+( :type :drop-target :name target :owner area :x 200 :y 20 :width 40 :height 40 :label ""
+  :label-type :string :actions (( :from (win target) :when (DroppedUpon) :to (win target)
+  :function_type CallFunction :arg_type () :action (onTarget) )) )
+( :type :scrolling-list :name choices :owner area :x 10 :y 60 :width 120 :height 80 :rows 4
+  :label "" :label-type :string :initial-list-values ("a" "b" "c")
+  :initial-selections (nil t nil) :multiple-selections nil
+  :actions (( :from (win choices) :when (DroppedUpon) :to (win choices)
+  :function_type CallFunction :arg_type () :action (onList) )) )
+)
+"""
+
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        source = cls.scratch / "drops.G"
+        source.write_text(cls.TEXT)
+        cls.drops = Port(cls.server, PROGRAMS, cls.scratch / "drops", source=source)
+        callbacks = cls.drops.folder / "callbacks.c"
+        text = callbacks.read_text().replace("(void)call_data;", "")
+        for function in ("onTarget", "onList"):
+            text = text.replace(
+                f'PortStub("{function}", widget);',
+                f'printf("{function}: %s\\n", '
+                "(char *)((XmSelectionCallbackStruct *)call_data)->value); fflush(stdout);")
+        callbacks.write_text(text.replace("#include <Xm/Xm.h>",
+                                          "#include <Xm/Xm.h>\n#include <Xm/Transfer.h>", 1))
+        cls.drops.build()
+        cls.places = cls.drops.widgets()
+
+    def drag(self, program, widget):
+        from_x, from_y = program.place("Drops", self.places["note"])
+        to_x, to_y = program.place("Drops", self.places[widget])
+        self.server.xdotool("mousemove", from_x, from_y, "mousedown", 2)
+        for step in range(1, 11):
+            self.server.xdotool("mousemove", from_x + (to_x - from_x) * step // 10,
+                                from_y + (to_y - from_y) * step // 10, "sleep", "0.05")
+        self.server.xdotool("sleep", "0.3", "mouseup", 2)
+
+    def test_functions_get_what_is_dropped(self):
+        program = self.enterContext(self.drops.start())
+        program.wait_for_window("Drops")
+        for widget, function in (("choices", "onList"), ("target", "onTarget")):
+            self.drag(program, widget)
+            self.assertEqual(program.line(), f"{function}: drag me")
+
+    def test_a_list_starts_with_its_selection(self):
+        module = (self.drops.folder / "drops.uil").read_text()
+        self.assertIn('XmNselectedItems = string_table("b");', module)
+        self.assertIn("XmNselectedItemCount = 1;", module)
+
+
 class Project(RunTest):
     def test_a_connection_of_the_project_opens_a_dialog_of_another_file(self):
         library = self.port("library", source=EXAMPLES / "library" / "library.P")
