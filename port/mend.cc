@@ -11,6 +11,7 @@
 #include "port/bitmaps.h"
 #include "port/colors.h"
 #include "port/functions.h"
+#include "port/mend_menus.h"
 #include "port/port_events.h"
 #include "port/targets.h"
 #include "uilfix/literals.h"
@@ -28,32 +29,8 @@ void Note(Session& session, std::string text) { session.model.mends.push_back(st
 
 char* Keep(const std::string& text) { return ArenaText(text.c_str(), text.size()); }
 
-// ---- Sub-menus ----
-
-// A menu's names of sub-menus are in the file's order and its other lists in reverse, and the
-// conversion walks them in step: the first item gets the menu of the last.
-void MirrorSubMenus(Session& session, Widg* menu, const PortObject& object) {
-  std::vector<Widg*> items;
-  for (Widg* item = menu->child; item; item = item->next) items.push_back(item);
-  const GilAttribute* labels = object.Find(MENU_ITEM_LABELS);
-  const bool any = std::any_of(items.begin(), items.end(), [](Widg* item) { return item->child; });
-  if (!any || !labels || labels->values.size() != items.size()) return;
-  const bool toggles = object.Is(MENU_TYPE, EXCLUSIVE) || object.Is(MENU_TYPE, NONEXCLUSIVE);
-  const char* plain = toggles ? "XmToggleButton" : "XmPushButton";
-  for (std::size_t i = 0; i < items.size() / 2; ++i) {
-    Widg* a = items[i];
-    Widg* b = items[items.size() - 1 - i];
-    Widg* const below_a = a->child;
-    Widg* const below_b = b->child;
-    SetChildren(a, below_b);
-    SetChildren(b, below_a);
-    a->class_name = below_b ? "XmCascadeButton" : plain;
-    b->class_name = below_a ? "XmCascadeButton" : plain;
-    session.parent_of[below_a] = b;
-    session.parent_of[below_b] = a;
-  }
-  Note(session, "the sub-menus of " + object.name + " are on the items that name them");
-}
+// Pixels that a pointer hits.
+constexpr int kLeastDropTarget = 12;
 
 // ---- Lists ----
 
@@ -71,6 +48,47 @@ void TurnItems(Session& session, Widg* list, const PortObject& object) {
   }
   AddResource(list, "XmNitems", Keep(turned + ")"));
   Note(session, "the items of " + object.name + " are in the order of the file");
+}
+
+// The items that are selected at the start; of a list that takes one, the first of them.
+void SelectItems(Widg* list, const PortObject& object) {
+  const GilAttribute* selections = object.Find(INITIAL_SELECTIONS);
+  if (!selections) return;
+  const bool several =
+      std::string_view(GetResourceValue(list, "XmNselectionPolicy")) == "XmMULTIPLE_SELECT";
+  std::string selected;
+  int count = 0;
+  std::size_t index = 0;
+  for (const uilfix::ValuePart& part : uilfix::SplitValue(GetResourceValue(list, "XmNitems"))) {
+    if (!part.literal || index >= selections->values.size()) continue;
+    const GilValue& value = selections->values[index++];
+    if (value.kind != GilValue::Kind::kToken || value.number != T || (count > 0 && !several)) {
+      continue;
+    }
+    selected += (count++ > 0 ? ",\n" : "") + part.text;
+  }
+  if (count == 0) return;
+  AddResource(list, "XmNselectedItems", Keep("string_table(" + selected + ")"));
+  AddResource(list, "XmNselectedItemCount", Keep(std::to_string(count)));
+}
+
+// ---- Drop targets ----
+
+// The conversion has no class for a drop target, and so leaves it unwritten; any widget can be one.
+void ShowDropTarget(Session& session, int index) {
+  const PortObject& object = session.model.objects[index];
+  for (Widg* target : OwnWidgets(session, index)) {
+    const Widg* container = session.parent_of.at(target);
+    if (IsInModule(target) || !container || !IsClass(container, "XmBulletinBoard")) continue;
+    target->class_name = "XmDrawingArea";
+    const auto set = [&](const char* resource, int32_t value) {
+      AddResource(target, resource, Keep(std::to_string(value)));
+    };
+    set("XmNwidth", std::max(object.Number(WIDTH), kLeastDropTarget));
+    set("XmNheight", std::max(object.Number(HEIGHT), kLeastDropTarget));
+    set("XmNborderWidth", 1);
+    Note(session, "drop target " + object.name + " is a drawing area");
+  }
 }
 
 // ---- Groups ----
@@ -268,12 +286,15 @@ void MendTree(Session& session) {
     const int index = static_cast<int>(i);
     const PortObject& object = model.objects[i];
     if (object.type == GROUP) BringBackGroup(session, index);
-    if (object.type != MENU && object.type != SCROLLING_LIST) continue;
+    if (object.type == DROP_TARGET) ShowDropTarget(session, index);
+    if (object.type != SCROLLING_LIST) continue;
     for (Widg* widg : OwnWidgets(session, index)) {
-      if (object.type == MENU) MirrorSubMenus(session, widg, object);
-      if (IsClass(widg, "XmList")) TurnItems(session, widg, object);
+      if (!IsClass(widg, "XmList")) continue;
+      TurnItems(session, widg, object);
+      SelectItems(widg, object);
     }
   }
+  MendMenus(session);
   LinkWidgets(session, 0);
   CleanWidgetNames(session);
 }

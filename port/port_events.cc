@@ -40,6 +40,9 @@ constexpr std::string_view kWidgetEvents[] = {"AnyEvent", "Enter",      "Exit", 
                                               "Menu",     "Select",     "Resize", "Repaint",
                                               "KeyPress", "DoubleClick"};
 
+// What only a window inside of a shell can take.
+constexpr std::string_view kDrop = "DroppedUpon";
+
 bool IsShell(const Widg* widg) {
   return IsClass(widg, "TopLevelShell") || IsClass(widg, "XmDialogShell");
 }
@@ -132,7 +135,7 @@ std::vector<PlannedSource> FindSources(const Session& session, int index, std::s
       sources.push_back({index, widg, callback, Condition(session, widg, connection, event)});
     } else if (IsShell(widg) && event == "Done") {
       sources.push_back({index, widg, event, ""});
-    } else if (IsWidgetEvent(event)) {
+    } else if (IsWidgetEvent(event) || (event == kDrop && !IsShell(widg))) {
       sources.push_back({index, widg, event, ""});
     }
   }

@@ -230,6 +230,11 @@ static void SetResource(Widget widget, char* resource, char* value) {
   }
   XtVaSetValues(widget, XtVaTypedArg, resource, XtRString, value, (int)strlen(value) + 1,
                 (char*)NULL);
+  /* Showing brings to the front, as in OPEN LOOK: panels that lie upon each other take turns by it. */
+  if (strcmp(resource, XtNmappedWhenManaged) == 0 && XtIsWidget(widget) && XtIsRealized(widget) &&
+      IsTrue(widget, value)) {
+    XRaiseWindow(XtDisplay(widget), XtWindow(widget));
+  }
 }
 
 /* Where the resource begins in "name.resource=value": behind the last dot before the sign, since a

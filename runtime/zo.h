@@ -26,7 +26,8 @@ void ZoManageCB(Widget caller, XtPointer argument, XtPointer call_data);
 void ZoUnmanageCB(Widget caller, XtPointer argument, XtPointer call_data);
 
 /* Sets one resource: "name.resource=value", the value converted from text. The name may hold dots.
-   The resource mappedWhenManaged of a shell shows or hides it. */
+   The resource mappedWhenManaged of a shell shows or hides it; of another widget, setting it brings
+   the widget to the front. */
 void ZoSetValuesCB(Widget caller, XtPointer argument, XtPointer call_data);
 
 /* Lets the widget that the argument names take input, or not. */

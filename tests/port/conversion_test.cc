@@ -156,7 +156,7 @@ TEST_F(ConversionTest, LosesNothingWithoutAReason) {
                              Action("win go", "Bang", "win go", "CallFunction", "bang") +
                              Action("win go", "Notify", "win", ":user_defined", "SetLeftFooter") +
                              Action("win go", "Notify", "win", "Magic", "spell")) +
-                  Object("drop-target", "drop", "area"));
+                  Object("term-pane", "shell", "win"));
   for (const Connection& connection : model.connections) {
     EXPECT_EQ(connection.fate, ConnectionFate::kLost);
     EXPECT_NE(connection.reason, "");
@@ -188,6 +188,69 @@ TEST_F(ConversionTest, PutsSubMenusOnTheItemsThatNameThem) {
   });
   ASSERT_NE(cascade, widgets.end());
   EXPECT_EQ(cascade->label, "A");
+}
+
+// The conversion copies the sub-menu of one item only.
+TEST_F(ConversionTest, GivesEveryCopyOfAMenuItsSubMenus) {
+  const std::string item = " :menu-item-label-types (:string)";
+  const Model model = ConvertText(
+      Object("menu", "subA", "nil", ":menu-type :command :menu-item-labels (\"X\")" + item) +
+      Object("menu", "subB", "nil", ":menu-type :command :menu-item-labels (\"Y\")" + item,
+             Action("subB \"Y\"", "Notify", "subB \"Y\"", "CallFunction", "take")) +
+      Object("menu", "both", "nil",
+             ":menu-type :command :menu-item-labels (\"A\" \"B\")"
+             " :menu-item-label-types (:string :string) :menu-item-menus (subA subB)") +
+      Object("base-window", "win", "nil", ":label \"Win\"") +
+      Object("control-area", "area", "win", ":menu both") +
+      Object("button", "go", "area", ":label \"Go\" :label-type :string :menu both"));
+  for (int sub : {0, 1}) {
+    const auto& widgets = model.objects[sub].widgets;
+    EXPECT_EQ(std::count_if(
+                  widgets.begin(), widgets.end(),
+                  [](const PortWidget& widget) { return widget.class_name == "XmPulldownMenu"; }),
+              2);
+  }
+  EXPECT_EQ(Only(model).sources.size(), 2U);
+}
+
+// Each menu names the next one twice: whole copies would be as many as atoms.
+TEST_F(ConversionTest, EndsWithMenusThatHaveCopiesWithoutNumber) {
+  std::string menus;
+  for (int i = 99; i >= 0; --i) {
+    const std::string next = i < 99 ? "m" + std::to_string(i + 1) : "nil";
+    menus += Object("menu", "m" + std::to_string(i), "nil",
+                    ":menu-type :command :menu-item-labels (\"A\" \"B\")"
+                    " :menu-item-label-types (:string :string) :menu-item-menus (" +
+                        next + " " + next + ")");
+  }
+  const Model model =
+      ConvertText(menus + Object("base-window", "win", "nil", ":label \"Win\"") +
+                  Object("control-area", "area", "win", ":menu m0") +
+                  Object("button", "go", "area", ":label \"Go\" :label-type :string :menu m0"));
+  EXPECT_EQ(model.error, "");
+  EXPECT_LT(model.module.size(), 10'000'000U);
+}
+
+TEST_F(ConversionTest, ShowsADropTarget) {
+  const Model model = ConvertText(
+      kWindow + Object("drop-target", "drop", "area", "",
+                       Action("win drop", "DroppedUpon", "win drop", "CallFunction", "take")));
+  const PortObject& target = model.objects.back();
+  EXPECT_EQ(target.fate, ObjectFate::kShown);
+  EXPECT_EQ(target.widgets.at(0).class_name, "XmDrawingArea");
+  EXPECT_EQ(Only(model).sources.at(0).event, "DroppedUpon");
+}
+
+TEST_F(ConversionTest, SelectsTheItemsThatTheFileSelects) {
+  const std::string list =
+      ":label \"\" :label-type :string :title \"\" :rows 3 :menu nil"
+      " :initial-list-values (\"one\" \"two\" \"three\") :initial-selections (nil t t)";
+  const Model one = ConvertText(kWindow + Object("scrolling-list", "list", "area", list));
+  EXPECT_NE(one.module.find("XmNselectedItems = string_table(\"two\");"), std::string::npos);
+  EXPECT_NE(one.module.find("XmNselectedItemCount = 1;"), std::string::npos);
+  const Model several = ConvertText(
+      kWindow + Object("scrolling-list", "list", "area", list + " :multiple-selections t"));
+  EXPECT_NE(several.module.find("XmNselectedItemCount = 2;"), std::string::npos);
 }
 
 TEST_F(ConversionTest, PutsListItemsInTheOrderOfTheFile) {

@@ -5,6 +5,7 @@ every port builds and runs.
 
 usage: corpus_test.py BUILD-FOLDERS [unittest arguments]
 """
+import concurrent.futures
 import os
 import pathlib
 import re
@@ -16,16 +17,16 @@ import tempfile
 import time
 import unittest
 
-from ports import CORPUS, EXAMPLES, build, run_port
+from ports import CORPUS, EXAMPLES, build, close_window, run_port
 
-from harness import Server
+from harness import SECONDS, Server
 
 PROGRAMS = []
 OPTIONS = [[], ["-zo30"], ["-nozo"], ["-nozo", "-genzocallbacks"], ["-motif12", "-openlook"]]
 # Every file under every option takes minutes; by default the options but for none are tried on a few.
 ALL = bool(os.environ.get("PORT_TEST_ALL"))
 SOME = {"weather.G", "library.P", "faxtool.G"}
-RUN_SECONDS = float(os.environ.get("PORT_RUN_SECONDS", "0.7"))
+RUN_SECONDS = 5
 
 
 def files():
@@ -63,34 +64,69 @@ class Corpus(unittest.TestCase):
                 self.assertEqual(shown + replaced + gone, objects)
 
     def test_builds_and_runs_under_every_option(self):
-        for tool in ("Xvfb", "uil", "make", "cc"):
+        for tool in ("Xvfb", "xdotool", "uil", "make", "cc"):
             if not shutil.which(tool):
                 self.skipTest(f"{tool} is not installed")
         server = self.enterContext(Server())
         for options in OPTIONS:
-            for file in files():
-                if options and not ALL and file.name not in SOME:
-                    continue
+            chosen = [file for file in files() if not options or ALL or file.name in SOME]
+            built = self.build_all(chosen, options)
+            self.run_together(server, built, options)
+            for file, program in built.items():
                 with self.subTest(file=file.name, options=options):
-                    self.build_and_run(server, file, options)
+                    self.close_all_windows(server, program)
 
-    def build_and_run(self, server, file, options):
-        app = pathlib.Path(self.enterContext(tempfile.TemporaryDirectory())) / "app"
-        done = run_port(PROGRAMS, "-q", "--no-pictures", "-o", app, *options, file)
-        self.assertEqual(done.returncode, 0, done.stderr)
-        build(app, "CFLAGS=-O0 -Wall -Wextra -Werror")
-        program = next(app.glob("*.uil")).with_suffix("")
-        process = subprocess.Popen([str(program)], cwd=app, stdout=subprocess.DEVNULL,
-                                   stderr=subprocess.PIPE, text=True,
-                                   env=server.environment(PROGRAMS))
-        time.sleep(RUN_SECONDS)
-        self.assertIsNone(process.poll(), "ended by itself")
-        process.send_signal(signal.SIGTERM)
-        said = process.communicate(timeout=10)[1]
+    def build_all(self, chosen, options):
+        """Ports and builds the files, as many at a time as there are processors; returns the
+        programs that came of it."""
+        def build_one(file):
+            app = pathlib.Path(tempfile.mkdtemp(dir=self.scratch)) / "app"
+            done = run_port(PROGRAMS, "-q", "--no-pictures", "-o", app, *options, file)
+            self.assertEqual(done.returncode, 0, done.stderr)
+            build(app, "CFLAGS=-O0 -Wall -Wextra -Werror")
+            return next(app.glob("*.uil")).with_suffix("")
+
+        built = {}
+        with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
+            jobs = {file: pool.submit(build_one, file) for file in chosen}
+        for file, job in jobs.items():
+            with self.subTest(file=file.name, options=options):
+                built[file] = job.result()
+        return built
+
+    def start(self, server, program):
+        return subprocess.Popen([str(program)], cwd=program.parent, stdout=subprocess.DEVNULL,
+                                stderr=subprocess.PIPE, text=True,
+                                env=server.environment(PROGRAMS))
+
+    def check_end(self, process):
+        """The program ends by itself, with status 0 and without a complaint."""
+        said = process.communicate(timeout=SECONDS)[1]
         self.assertEqual(process.returncode, 0)
         # Icons that nobody has are the only thing to complain of.
         complaints = [line for line in said.splitlines() if "XmGetPixmap failed" not in line]
         self.assertEqual(complaints, [])
+
+    def run_together(self, server, built, options):
+        """Starts all programs, so that they wait for the end of the time together."""
+        running = {file: self.start(server, program) for file, program in built.items()}
+        time.sleep(RUN_SECONDS)
+        for file, process in running.items():
+            with self.subTest(file=file.name, options=options):
+                self.assertIsNone(process.poll(), "ended by itself")
+                process.send_signal(signal.SIGTERM)
+                self.check_end(process)
+
+    def close_all_windows(self, server, program):
+        """The program is alone on the server: every window there is its own."""
+        process = self.start(server, program)
+        end = time.monotonic() + SECONDS
+        while process.poll() is None and time.monotonic() < end:
+            for window in server.xdotool("search", "--onlyvisible", "--maxdepth", 1, "--name", ""):
+                close_window(server.display, window)
+            time.sleep(0.05)
+        self.assertIsNotNone(process.poll(), "still runs with all windows closed")
+        self.check_end(process)
 
 
 if __name__ == "__main__":

@@ -72,22 +72,24 @@ class Port:
         self.build()
 
     def build(self):
-        build(self.folder, "CFLAGS=-O0 -Wall -Wextra -Werror")
+        build(self.folder, "CFLAGS=-O0 -g -Wall -Wextra -Werror")
 
     @property
     def name(self):
         return next(self.folder.glob("*.uil")).stem
 
     def widgets(self):
-        """The widgets with their places, by name."""
+        """The widgets with their places, by name. That one reaches out of its window, which the
+        viewer's status tells, is no matter here."""
         resources = next(self.folder.glob("*.ad"))
         listing = subprocess.run(
             [str(find(self.programs, "pandrel-view")), "--list", "--all", "--no-fix",
              "--resources", str(resources), str(self.folder / f"{self.name}.uil")],
-            check=True, capture_output=True, text=True, timeout=SECONDS,
+            check=False, capture_output=True, text=True, timeout=SECONDS,
             env=self.server.environment(self.programs)).stdout
         return {widget.name: widget for widget in parse_listing(listing)}
 
-    def start(self):
-        return Viewer(self.server, self.programs, program=self.folder / self.name,
-                      folder=self.folder)
+    def start(self, *arguments, tool=()):
+        """Runs the program, by `tool` (a program and its arguments) when one is given."""
+        program, *rest = [*tool, self.folder / self.name, *arguments]
+        return Viewer(self.server, self.programs, *rest, program=program, folder=self.folder)
