@@ -110,7 +110,8 @@ using Item = std::variant<Verbatim, Declaration, Object>;
 
 struct Module {
   std::vector<Item> items;
-  bool damaged = false;              // holds text, in objects or between them, that fits no form
+  // The line of the first text, in objects or between them, that fits no form; 0 for none.
+  int odd_line = 0;
   CarriageReturns carriage_returns;  // left out when it was read
   std::vector<GilStart> starts;      // from the GIL file, when the user named it
 };

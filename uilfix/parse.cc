@@ -69,11 +69,11 @@ class Parser {
         module.items.emplace_back(std::move(*item));
       } else {
         Verbatim line = TakeFreeLine(cursor_);
-        damaged_ |= definitions_ != Definitions::kOther && !IsSilent(line.text);
+        if (definitions_ != Definitions::kOther) NoteOdd(line);
         module.items.emplace_back(std::move(line));
       }
     }
-    module.damaged = damaged_;
+    module.odd_line = odd_line_;
     return module;
   }
 
@@ -219,7 +219,7 @@ class Parser {
       if (!piece) piece = TakeOddLine(object);
       const auto* verbatim = std::get_if<Verbatim>(&*piece);
       const Mark mark = verbatim ? verbatim->mark : Mark::kNone;
-      if (verbatim && mark == Mark::kNone) damaged_ |= !IsSilent(verbatim->text);
+      if (verbatim && mark == Mark::kNone) NoteOdd(*verbatim);
       entries_.push_back(std::move(*piece));
       if (mark == Mark::kEnd && section == Mark::kNone && !object.IsComment()) return;
       if (mark != Mark::kNone) section = mark == Mark::kEnd ? Mark::kNone : mark;
@@ -236,6 +236,10 @@ class Parser {
       return Verbatim{std::string(row.text), row.mark, line};
     }
     return std::nullopt;
+  }
+
+  void NoteOdd(const Verbatim& line) {
+    if (odd_line_ == 0 && !IsSilent(line.text)) odd_line_ = line.line;
   }
 
   Verbatim TakeOddLine(const Object& object) {
@@ -387,7 +391,7 @@ class Parser {
   Cursor cursor_;
   std::string_view text_;
   std::vector<Entry> entries_;  // of the object that is being read
-  bool damaged_ = false;
+  int odd_line_ = 0;
   Definitions definitions_ = Definitions::kOther;
   std::size_t furthest_ = 0;  // how far the form that is being tried was looked for
 };
