@@ -75,6 +75,18 @@ TEST(Rewrites, LongLabelOfSeveralLinesIsBrokenToo) {
   EXPECT_EQ(Fix(fixed), fixed);
 }
 
+// Wherever in its line a comment begins, what stands in it comes to light nowhere.
+TEST(Rewrites, CommentAtTheEndOfALineStaysOne) {
+  for (std::size_t column = 120; column <= 130; ++column) {
+    std::string text = "value\n";
+    while (text.size() < 6 + column) text += "x;";
+    text += "/*c\nobject\nt:XmText{\n\targuments {\n\t\t};\n};\n*/\n";
+    const std::string fixed = Fix(text);
+    EXPECT_LE(LongestLine(fixed), 130u);
+    EXPECT_NE(fixed.find("/*c\nobject\n"), std::string::npos) << fixed;
+  }
+}
+
 TEST(Rewrites, EmptyTextStaysEmpty) {
   EXPECT_EQ(Fix(""), "");
   EXPECT_EQ(Fix("\n"), "\n");
