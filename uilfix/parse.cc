@@ -28,13 +28,14 @@ struct SectionLine {
 };
 
 // The lines between the entries of a live object, as pandrel writes them.
-constexpr std::array<SectionLine, 6> kSectionLines = {{
+constexpr std::array<SectionLine, 7> kSectionLines = {{
     {"\tcontrols {\n", Mark::kControls},
     {"\targuments {\n", Mark::kArguments},
     {"\tcallbacks {\n", Mark::kCallbacks},
     {"\t\t};\n", Mark::kEnd},
     {"\t};\n", Mark::kEnd},
     {"};\n", Mark::kEnd},
+    {"\n", Mark::kNone},
 }};
 
 // The mark of a line in a commented object, or of one that fits no form.
@@ -214,28 +215,45 @@ class Parser {
         entries_.push_back(std::move(*entry));
         continue;
       }
-      std::optional<Entry> piece = TakeSectionLine(object);
+      std::optional<Entry> piece = TakeSectionLines(object, section);
       if (!piece && !object.IsComment()) piece = TakeFreeEntry(cursor_, section);
       if (!piece) piece = TakeOddLine(object);
       const auto* verbatim = std::get_if<Verbatim>(&*piece);
       const Mark mark = verbatim ? verbatim->mark : Mark::kNone;
       if (verbatim && mark == Mark::kNone) NoteOdd(*verbatim);
       entries_.push_back(std::move(*piece));
-      if (mark == Mark::kEnd && section == Mark::kNone && !object.IsComment()) return;
+      if (mark == Mark::kObjectEnd) return;
       if (mark != Mark::kNone) section = mark == Mark::kEnd ? Mark::kNone : mark;
     }
   }
 
-  // A line between the entries, as pandrel writes it.
-  std::optional<Entry> TakeSectionLine(const Object& object) {
+  // The lines between two entries, as pandrel writes them, in one: half of a module is such lines.
+  // Those that end the object, and those behind the head of the arguments, where more may be added,
+  // stand by themselves.
+  std::optional<Entry> TakeSectionLines(const Object& object, Mark section) {
     if (object.IsComment()) return std::nullopt;
-    for (const SectionLine& row : kSectionLines) {
-      if (!cursor_.At(row.text)) continue;
-      const int line = cursor_.Line();
-      cursor_.TakeTo(Pos() + row.text.size());
-      return Verbatim{std::string(row.text), row.mark, line};
+    const std::size_t begin = Pos();
+    Verbatim lines{"", Mark::kNone, cursor_.Line()};
+    while (const SectionLine* row = SectionLineHere()) {
+      const bool end = row->mark == Mark::kEnd;
+      if (end && section == Mark::kNone && Pos() > begin) break;
+      cursor_.TakeTo(Pos() + row->text.size());
+      if (row->mark == Mark::kNone) continue;
+      lines.mark = end && section == Mark::kNone ? Mark::kObjectEnd : row->mark;
+      lines.closes |= end;
+      section = end ? Mark::kNone : row->mark;
+      if (lines.mark == Mark::kObjectEnd || section == Mark::kArguments) break;
     }
-    return std::nullopt;
+    if (Pos() == begin) return std::nullopt;
+    lines.text = text_.substr(begin, Pos() - begin);
+    return lines;
+  }
+
+  const SectionLine* SectionLineHere() const {
+    for (const SectionLine& row : kSectionLines) {
+      if (cursor_.At(row.text)) return &row;
+    }
+    return nullptr;
   }
 
   void NoteOdd(const Verbatim& line) {
