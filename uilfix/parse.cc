@@ -38,6 +38,10 @@ constexpr std::array<SectionLine, 7> kSectionLines = {{
     {"\n", Mark::kNone},
 }};
 
+// Objects take this many bytes at least, with the blank line between them. Memory that is set aside
+// for more of them than there are costs nothing; moving them does.
+constexpr std::size_t kSmallObject = 80;
+
 // The mark of a line in a commented object, or of one that fits no form.
 Mark MarkOfLine(std::string_view line) {
   for (const SectionLine& row : kSectionLines) {
@@ -58,6 +62,7 @@ class Parser {
 
   Module Parse() {
     Module module;
+    module.items.reserve(text_.size() / kSmallObject);
     while (!cursor_.AtEnd()) {
       if (auto object = TakeObject()) {
         definitions_ = Definitions::kObjects;
@@ -65,6 +70,9 @@ class Parser {
       } else if (auto declaration = TakeDeclaration()) {
         definitions_ = Definitions::kProcedures;
         module.items.emplace_back(std::move(*declaration));
+      } else if (cursor_.Peek() == '\n') {
+        module.items.emplace_back(Verbatim{"\n", Mark::kNone, cursor_.Line()});
+        cursor_.TakeTo(Pos() + 1);
       } else if (auto item = TakeFreeDefinition(cursor_, definitions_)) {
         if (auto* head = std::get_if<Object>(&*item)) TakeEntries(*head);
         module.items.emplace_back(std::move(*item));
@@ -211,10 +219,7 @@ class Parser {
   void GatherEntries(const Object& object) {
     Mark section = Mark::kNone;
     while (!cursor_.AtEnd() && !AtObject() && !cursor_.At("end module")) {
-      if (auto entry = TakeEntry(section)) {
-        entries_.push_back(std::move(*entry));
-        continue;
-      }
+      if (TakeEntry(section)) continue;
       std::optional<Entry> piece = TakeSectionLines(object, section);
       if (!piece && !object.IsComment()) piece = TakeFreeEntry(cursor_, section);
       if (!piece) piece = TakeOddLine(object);
@@ -268,7 +273,8 @@ class Parser {
     return line;
   }
 
-  std::optional<Entry> TakeEntry(Mark section) {
+  // Takes an entry of the section, in pandrel's layout, to the end of `entries_`.
+  bool TakeEntry(Mark section) {
     switch (section) {
       case Mark::kControls:
         return TakeControl();
@@ -277,36 +283,46 @@ class Parser {
       case Mark::kCallbacks:
         return TakeCallback();
       default:
-        return std::nullopt;
+        return false;
     }
   }
 
-  std::optional<Entry> TakeControl() {
-    return Try([&]() -> std::optional<Entry> {
-      Control control;
+  // Lets `take` fill in a new entry; undoes all when it cannot.
+  template <typename T, typename F>
+  bool TryEntry(F take) {
+    const Cursor::Place place = cursor_.Here();
+    furthest_ = 0;
+    T& entry = std::get<T>(entries_.emplace_back(std::in_place_type<T>));
+    if (take(entry)) return true;
+    entries_.pop_back();
+    cursor_.Return(place, std::max(furthest_, Pos()));
+    return false;
+  }
+
+  bool TakeControl() {
+    return TryEntry<Control>([&](Control& control) {
       control.line = cursor_.Line();
       control.lead = TakeLead();
       control.unmanaged = cursor_.TakeWord("unmanaged ");
       control.class_name = TakeName();
-      if (control.class_name.empty() || !cursor_.TakeWord(" ")) return std::nullopt;
+      if (control.class_name.empty() || !cursor_.TakeWord(" ")) return false;
       const auto name = TakeWholeName();
-      if (!name) return std::nullopt;
+      if (!name) return false;
       control.name = *name;
-      return control;
+      return true;
     });
   }
 
-  std::optional<Entry> TakeArgument() {
-    return Try([&]() -> std::optional<Entry> {
-      Argument argument;
+  bool TakeArgument() {
+    return TryEntry<Argument>([&](Argument& argument) {
       argument.line = cursor_.Line();
       argument.lead = TakeLead();
       argument.resource = TakeName();
-      if (argument.resource.empty() || !cursor_.TakeWord(" = ")) return std::nullopt;
+      if (argument.resource.empty() || !cursor_.TakeWord(" = ")) return false;
       const auto value = TakeValue(argument.resource, argument.lead);
-      if (!value) return std::nullopt;
+      if (!value) return false;
       argument.value = *value;
-      return argument;
+      return true;
     });
   }
 
@@ -340,23 +356,21 @@ class Parser {
     return std::nullopt;
   }
 
-  std::optional<Entry> TakeCallback() {
-    return Try([&]() -> std::optional<Entry> {
-      Callback callback;
+  bool TakeCallback() {
+    return TryEntry<Callback>([&](Callback& callback) {
       callback.line = cursor_.Line();
       callback.lead = TakeLead();
       callback.reason = TakeName();
-      if (callback.reason.empty()) return std::nullopt;
+      if (callback.reason.empty()) return false;
       if (cursor_.TakeWord(" = procedures {\n")) {
         callback.list = true;
-        if (!TakeCalls(callback)) return std::nullopt;
-        return callback;
+        return TakeCalls(callback);
       }
-      if (!cursor_.TakeWord(" = procedure ")) return std::nullopt;
+      if (!cursor_.TakeWord(" = procedure ")) return false;
       auto call = TakeCall();
-      if (!call) return std::nullopt;
+      if (!call) return false;
       callback.calls.push_back(std::move(*call));
-      return callback;
+      return true;
     });
   }
 
