@@ -22,11 +22,11 @@ Place FindMark(Place begin, Place end, Mark mark) {
   return std::find_if(begin, end, [&](const Entry& entry) { return MarkOf(entry) == mark; });
 }
 
-// Where the section ends whose head is at `head`; `end` when another begins before.
+// Where the section ends whose head is at `head`; `end` when another begins without that.
 Place SectionEnd(Place head, Place end) {
   const Place next =
       std::find_if(head + 1, end, [](const Entry& entry) { return MarkOf(entry) != Mark::kNone; });
-  return next != end && MarkOf(*next) == Mark::kEnd ? next : end;
+  return next != end && std::get<Verbatim>(*next).closes ? next : end;
 }
 
 // An argument laid out as its neighbour is.
@@ -58,13 +58,13 @@ bool AddArgument(Object& object, const std::string& resource, const std::string&
   if (begin == entries.end()) {
     // An object without a list of arguments gets one in front of all else.
     if (object.IsComment() ||
-        FindMark(entries.begin(), entries.end(), Mark::kEnd) == entries.end()) {
+        FindMark(entries.begin(), entries.end(), Mark::kObjectEnd) == entries.end()) {
       return false;
     }
     const bool own_line = !object.layout || object.layout->tail.ends_with('\n');
     const std::string head = own_line ? "\targuments {\n" : "\n\targuments {\n";
     entries.insert(entries.begin(), {Verbatim{head, Mark::kArguments, object.line},
-                                     Verbatim{"\t\t};\n", Mark::kEnd, object.line}});
+                                     Verbatim{"\t\t};\n", Mark::kEnd, object.line, true}});
     begin = entries.begin();
   }
   const Place end = SectionEnd(begin, entries.end());

@@ -100,6 +100,8 @@ void LineBreaker::AppendLineComment(std::string_view comment) {
 }
 
 void LineBreaker::AppendComment(std::string_view comment) {
+  // "/*" must not be cut in two, nor "*/" behind it.
+  if (column_ + 4 > kMaxLine) NewLine();
   while (!comment.empty()) {
     const std::size_t line = LineSize(comment);
     const std::size_t room = kMaxLine - std::min(column_, kMaxLine - 1);
@@ -109,7 +111,6 @@ void LineBreaker::AppendComment(std::string_view comment) {
       continue;
     }
     const std::size_t blank = CutAtBlank(comment, room);
-    // "*/" must not be cut in two.
     const std::size_t whole = comment[room - 1] == '*' && room > 1 ? room - 1 : room;
     Append(comment.substr(0, blank ? blank : whole));
     comment.remove_prefix(blank ? blank + 1 : whole);

@@ -21,13 +21,14 @@
 namespace uilfix {
 
 // What a Verbatim text does in its object.
-enum class Mark { kNone, kControls, kArguments, kCallbacks, kEnd };
+enum class Mark { kNone, kControls, kArguments, kCallbacks, kEnd, kObjectEnd };
 
 // Text that no rewrite looks into, line end included.
 struct Verbatim {
   std::string text;
-  Mark mark = Mark::kNone;  // the section it opens; kEnd closes a section or the object
+  Mark mark = Mark::kNone;  // the section that is open behind it; kEnd when it closes the last
   int line = 0;             // in the module as read, counted from 1; of the text's first line
+  bool closes = false;      // it closes the section that is open before it
 };
 
 // The texts around the names and values of a record, where they are not what pandrel writes. Each
@@ -110,7 +111,9 @@ using Item = std::variant<Verbatim, Declaration, Object>;
 
 struct Module {
   std::vector<Item> items;
-  bool damaged = false;              // holds text, in objects or between them, that fits no form
+  // The line of a text, in objects or between them, that fits no form and is neither blank nor a
+  // comment, or that was changed; 0 for none. Read again it may be taken for something else.
+  int odd_line = 0;
   CarriageReturns carriage_returns;  // left out when it was read
   std::vector<GilStart> starts;      // from the GIL file, when the user named it
 };

@@ -55,7 +55,12 @@ int Fix(const uilfix::Options& options) {
     starts = uilfix::ReadGilStarts(*gil);
   }
   uilfix::Report report;
-  const std::string fixed = uilfix::MendText(*text, options.selection, report, starts);
+  const auto fixed = uilfix::MendText(*text, options.selection, report, starts);
+  if (!fixed) {
+    std::cerr << kProgram << ": " << input << ": line " << report.HopelessLine()
+              << ": not UIL; with it the module cannot be mended\n";
+    return kFailure;
+  }
   if (!options.quiet) {
     std::string lines;
     for (const uilfix::Change& change : report.Changes()) {
@@ -64,7 +69,7 @@ int Fix(const uilfix::Options& options) {
     }
     std::cerr << lines;
   }
-  if (!uilfix::WriteFile(options.output, fixed)) {
+  if (!uilfix::WriteFile(options.output, *fixed)) {
     return Fail(IsStandard(options.output) ? "standard output" : options.output);
   }
   return 0;

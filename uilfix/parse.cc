@@ -28,14 +28,19 @@ struct SectionLine {
 };
 
 // The lines between the entries of a live object, as pandrel writes them.
-constexpr std::array<SectionLine, 6> kSectionLines = {{
+constexpr std::array<SectionLine, 7> kSectionLines = {{
     {"\tcontrols {\n", Mark::kControls},
     {"\targuments {\n", Mark::kArguments},
     {"\tcallbacks {\n", Mark::kCallbacks},
     {"\t\t};\n", Mark::kEnd},
     {"\t};\n", Mark::kEnd},
     {"};\n", Mark::kEnd},
+    {"\n", Mark::kNone},
 }};
+
+// Objects take this many bytes at least, with the blank line between them. Memory that is set aside
+// for more of them than there are costs nothing; moving them does.
+constexpr std::size_t kSmallObject = 80;
 
 // The mark of a line in a commented object, or of one that fits no form.
 Mark MarkOfLine(std::string_view line) {
@@ -57,6 +62,7 @@ class Parser {
 
   Module Parse() {
     Module module;
+    module.items.reserve(text_.size() / kSmallObject);
     while (!cursor_.AtEnd()) {
       if (auto object = TakeObject()) {
         definitions_ = Definitions::kObjects;
@@ -64,16 +70,19 @@ class Parser {
       } else if (auto declaration = TakeDeclaration()) {
         definitions_ = Definitions::kProcedures;
         module.items.emplace_back(std::move(*declaration));
+      } else if (cursor_.Peek() == '\n') {
+        module.items.emplace_back(Verbatim{"\n", Mark::kNone, cursor_.Line()});
+        cursor_.TakeTo(Pos() + 1);
       } else if (auto item = TakeFreeDefinition(cursor_, definitions_)) {
         if (auto* head = std::get_if<Object>(&*item)) TakeEntries(*head);
         module.items.emplace_back(std::move(*item));
       } else {
         Verbatim line = TakeFreeLine(cursor_);
-        damaged_ |= definitions_ != Definitions::kOther && !IsSilent(line.text);
+        if (definitions_ != Definitions::kOther) NoteOdd(line);
         module.items.emplace_back(std::move(line));
       }
     }
-    module.damaged = damaged_;
+    module.odd_line = odd_line_;
     return module;
   }
 
@@ -210,32 +219,50 @@ class Parser {
   void GatherEntries(const Object& object) {
     Mark section = Mark::kNone;
     while (!cursor_.AtEnd() && !AtObject() && !cursor_.At("end module")) {
-      if (auto entry = TakeEntry(section)) {
-        entries_.push_back(std::move(*entry));
-        continue;
-      }
-      std::optional<Entry> piece = TakeSectionLine(object);
+      if (TakeEntry(section)) continue;
+      std::optional<Entry> piece = TakeSectionLines(object, section);
       if (!piece && !object.IsComment()) piece = TakeFreeEntry(cursor_, section);
       if (!piece) piece = TakeOddLine(object);
       const auto* verbatim = std::get_if<Verbatim>(&*piece);
       const Mark mark = verbatim ? verbatim->mark : Mark::kNone;
-      if (verbatim && mark == Mark::kNone) damaged_ |= !IsSilent(verbatim->text);
+      if (verbatim && mark == Mark::kNone) NoteOdd(*verbatim);
       entries_.push_back(std::move(*piece));
-      if (mark == Mark::kEnd && section == Mark::kNone && !object.IsComment()) return;
+      if (mark == Mark::kObjectEnd) return;
       if (mark != Mark::kNone) section = mark == Mark::kEnd ? Mark::kNone : mark;
     }
   }
 
-  // A line between the entries, as pandrel writes it.
-  std::optional<Entry> TakeSectionLine(const Object& object) {
+  // The lines between two entries, as pandrel writes them, in one: half of a module is such lines.
+  // Those that end the object, and those behind the head of the arguments, where more may be added,
+  // stand by themselves.
+  std::optional<Entry> TakeSectionLines(const Object& object, Mark section) {
     if (object.IsComment()) return std::nullopt;
-    for (const SectionLine& row : kSectionLines) {
-      if (!cursor_.At(row.text)) continue;
-      const int line = cursor_.Line();
-      cursor_.TakeTo(Pos() + row.text.size());
-      return Verbatim{std::string(row.text), row.mark, line};
+    const std::size_t begin = Pos();
+    Verbatim lines{"", Mark::kNone, cursor_.Line()};
+    while (const SectionLine* row = SectionLineHere()) {
+      const bool end = row->mark == Mark::kEnd;
+      if (end && section == Mark::kNone && Pos() > begin) break;
+      cursor_.TakeTo(Pos() + row->text.size());
+      if (row->mark == Mark::kNone) continue;
+      lines.mark = end && section == Mark::kNone ? Mark::kObjectEnd : row->mark;
+      lines.closes |= end;
+      section = end ? Mark::kNone : row->mark;
+      if (lines.mark == Mark::kObjectEnd || section == Mark::kArguments) break;
     }
-    return std::nullopt;
+    if (Pos() == begin) return std::nullopt;
+    lines.text = text_.substr(begin, Pos() - begin);
+    return lines;
+  }
+
+  const SectionLine* SectionLineHere() const {
+    for (const SectionLine& row : kSectionLines) {
+      if (cursor_.At(row.text)) return &row;
+    }
+    return nullptr;
+  }
+
+  void NoteOdd(const Verbatim& line) {
+    if (odd_line_ == 0 && !IsSilent(line.text)) odd_line_ = line.line;
   }
 
   Verbatim TakeOddLine(const Object& object) {
@@ -246,7 +273,8 @@ class Parser {
     return line;
   }
 
-  std::optional<Entry> TakeEntry(Mark section) {
+  // Takes an entry of the section, in pandrel's layout, to the end of `entries_`.
+  bool TakeEntry(Mark section) {
     switch (section) {
       case Mark::kControls:
         return TakeControl();
@@ -255,36 +283,46 @@ class Parser {
       case Mark::kCallbacks:
         return TakeCallback();
       default:
-        return std::nullopt;
+        return false;
     }
   }
 
-  std::optional<Entry> TakeControl() {
-    return Try([&]() -> std::optional<Entry> {
-      Control control;
+  // Lets `take` fill in a new entry; undoes all when it cannot.
+  template <typename T, typename F>
+  bool TryEntry(F take) {
+    const Cursor::Place place = cursor_.Here();
+    furthest_ = 0;
+    T& entry = std::get<T>(entries_.emplace_back(std::in_place_type<T>));
+    if (take(entry)) return true;
+    entries_.pop_back();
+    cursor_.Return(place, std::max(furthest_, Pos()));
+    return false;
+  }
+
+  bool TakeControl() {
+    return TryEntry<Control>([&](Control& control) {
       control.line = cursor_.Line();
       control.lead = TakeLead();
       control.unmanaged = cursor_.TakeWord("unmanaged ");
       control.class_name = TakeName();
-      if (control.class_name.empty() || !cursor_.TakeWord(" ")) return std::nullopt;
+      if (control.class_name.empty() || !cursor_.TakeWord(" ")) return false;
       const auto name = TakeWholeName();
-      if (!name) return std::nullopt;
+      if (!name) return false;
       control.name = *name;
-      return control;
+      return true;
     });
   }
 
-  std::optional<Entry> TakeArgument() {
-    return Try([&]() -> std::optional<Entry> {
-      Argument argument;
+  bool TakeArgument() {
+    return TryEntry<Argument>([&](Argument& argument) {
       argument.line = cursor_.Line();
       argument.lead = TakeLead();
       argument.resource = TakeName();
-      if (argument.resource.empty() || !cursor_.TakeWord(" = ")) return std::nullopt;
+      if (argument.resource.empty() || !cursor_.TakeWord(" = ")) return false;
       const auto value = TakeValue(argument.resource, argument.lead);
-      if (!value) return std::nullopt;
+      if (!value) return false;
       argument.value = *value;
-      return argument;
+      return true;
     });
   }
 
@@ -318,23 +356,21 @@ class Parser {
     return std::nullopt;
   }
 
-  std::optional<Entry> TakeCallback() {
-    return Try([&]() -> std::optional<Entry> {
-      Callback callback;
+  bool TakeCallback() {
+    return TryEntry<Callback>([&](Callback& callback) {
       callback.line = cursor_.Line();
       callback.lead = TakeLead();
       callback.reason = TakeName();
-      if (callback.reason.empty()) return std::nullopt;
+      if (callback.reason.empty()) return false;
       if (cursor_.TakeWord(" = procedures {\n")) {
         callback.list = true;
-        if (!TakeCalls(callback)) return std::nullopt;
-        return callback;
+        return TakeCalls(callback);
       }
-      if (!cursor_.TakeWord(" = procedure ")) return std::nullopt;
+      if (!cursor_.TakeWord(" = procedure ")) return false;
       auto call = TakeCall();
-      if (!call) return std::nullopt;
+      if (!call) return false;
       callback.calls.push_back(std::move(*call));
-      return callback;
+      return true;
     });
   }
 
@@ -387,7 +423,7 @@ class Parser {
   Cursor cursor_;
   std::string_view text_;
   std::vector<Entry> entries_;  // of the object that is being read
-  bool damaged_ = false;
+  int odd_line_ = 0;
   Definitions definitions_ = Definitions::kOther;
   std::size_t furthest_ = 0;  // how far the form that is being tried was looked for
 };

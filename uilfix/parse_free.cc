@@ -444,19 +444,20 @@ std::optional<Entry> TakeSectionHead(Form& form, std::size_t start) {
   return Verbatim{form.Between(start, form.Pos()), mark};
 }
 
-std::optional<Entry> TakeEnd(Form& form, std::size_t start) {
+std::optional<Entry> TakeEnd(Form& form, std::size_t start, Mark section) {
   form.Char('}');
   form.Trivia();
   if (!form.Char(';')) return std::nullopt;
   form.MoveTo(form.Scan().RestOfLine(form.Pos()));
-  return Verbatim{form.Between(start, form.Pos()), Mark::kEnd};
+  const Mark mark = section == Mark::kNone ? Mark::kObjectEnd : Mark::kEnd;
+  return Verbatim{form.Between(start, form.Pos()), mark, 0, true};
 }
 
 std::optional<Entry> TakePiece(Form& form, Mark section) {
   const std::size_t start = form.Pos();
   form.Trivia();
   if (form.Failed()) return std::nullopt;
-  if (form.Next() == '}') return TakeEnd(form, start);
+  if (form.Next() == '}') return TakeEnd(form, start, section);
   switch (section) {
     case Mark::kControls:
       return TakeFreeControl(form, start);

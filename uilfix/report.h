@@ -10,7 +10,9 @@
 namespace uilfix {
 
 struct Change {
-  int line = 0;              // in the module as read
+  // In the module as read. What is found only when other odd text is mended has its line in the
+  // module as mended until then.
+  int line = 0;
   std::string_view rewrite;  // the name of the switch that turns it off
   std::string text;
 };
@@ -24,11 +26,21 @@ class Report {
 
   void Add(int line, std::string text) { changes_.push_back({line, rewrite_, std::move(text)}); }
 
+  // Forgets the changes: the text cannot be mended because of what stands at `line`.
+  void GiveUp(int line) {
+    changes_.clear();
+    hopeless_line_ = line;
+  }
+
   const std::vector<Change>& Changes() const { return changes_; }
+
+  // The line that kept the text from being mended, in the module as read; 0 for none.
+  int HopelessLine() const { return hopeless_line_; }
 
  private:
   std::string_view rewrite_;
   std::vector<Change> changes_;
+  int hopeless_line_ = 0;
 };
 
 }  // namespace uilfix

@@ -84,20 +84,32 @@ bool IsTaken(const Object& object, const Callback& list, std::string_view reason
   return taken;
 }
 
+// The reason that a call should have in a list whose ordinary calls have the reason `ordinary`.
+std::string_view ReasonOf(const Call& call, std::string_view ordinary) {
+  const std::string_view own = ReasonOfProcedure(call.procedure);
+  return own.empty() ? ordinary : own;
+}
+
+// Whether all calls can have the reason that they should have, and one does not.
+bool MustSplit(const Object& object, const Callback& list, std::string_view ordinary) {
+  bool all_right = true;
+  for (const Call& call : list.calls) {
+    const std::string_view reason = ReasonOf(call, ordinary);
+    if (IsTaken(object, list, reason)) return false;
+    all_right &= reason == list.reason;
+  }
+  return !all_right;
+}
+
 // One entry per reason, in the order of the calls. Empty when the list can stay as it is.
 std::vector<Callback> SplitList(const Object& object, const Callback& list) {
   const std::string_view ordinary = OrdinaryReason(object, list);
-  if (ordinary.empty()) return {};
   std::vector<Callback> split;
+  if (ordinary.empty() || !MustSplit(object, list, ordinary)) return split;
   for (const Call& call : list.calls) {
-    const std::string_view own = ReasonOfProcedure(call.procedure);
-    Call moved = call;
-    moved.layout = nullptr;
-    EntryFor(split, own.empty() ? ordinary : own, list).calls.push_back(std::move(moved));
-  }
-  if (split.size() == 1 && split[0].reason == list.reason) return {};
-  for (const Callback& callback : split) {
-    if (IsTaken(object, list, callback.reason)) return {};
+    auto& calls = EntryFor(split, ReasonOf(call, ordinary), list).calls;
+    calls.push_back(call);
+    calls.back().layout = nullptr;
   }
   for (Callback& callback : split) callback.list = callback.calls.size() > 1;
   return split;

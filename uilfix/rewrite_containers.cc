@@ -85,7 +85,7 @@ Object MakeContainer(Object& object, const std::string& name) {
     entries.emplace_back(
         Control{"\t\t", child.class_name, child.name, child.unmanaged, child.line});
   }
-  entries.emplace_back(Verbatim{"\t\t};\n", Mark::kEnd, object.line});
+  entries.emplace_back(Verbatim{"\t\t};\n", Mark::kEnd, object.line, true});
   entries.emplace_back(Verbatim{"\targuments {\n", Mark::kArguments, object.line});
   const auto placing = TakeEntries(object, [](const Entry& entry) {
     const auto* argument = std::get_if<Argument>(&entry);
@@ -99,7 +99,7 @@ Object MakeContainer(Object& object, const std::string& name) {
     entries.emplace_back(Argument{"\t\t", margin, "0", object.line});
   }
   entries.emplace_back(
-      Verbatim{"\t\t};\n\tcallbacks {\n\t\t};\n\n\t};\n", Mark::kEnd, object.line});
+      Verbatim{"\t\t};\n\tcallbacks {\n\t\t};\n\n\t};\n", Mark::kObjectEnd, object.line, true});
   return box;
 }
 

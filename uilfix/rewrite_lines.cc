@@ -16,7 +16,7 @@ std::string_view Part(const LayoutPtr& layout, std::string Layout::*part, std::s
 // several share a line.
 class LineMender {
  public:
-  explicit LineMender(Report& report) : report_(report) {}
+  LineMender(Module& module, Report& report) : module_(module), report_(report) {}
 
   void Mend(Item& item) {
     if (auto* object = std::get_if<Object>(&item)) {
@@ -143,11 +143,13 @@ class LineMender {
     breaker.AppendFree(verbatim.text, verbatim.mark != Mark::kNone);
     column_ = breaker.Column();
     if (breaker.Text() == verbatim.text) return;
+    if (module_.odd_line == 0) module_.odd_line = verbatim.line;
     verbatim.text = breaker.Text();
     report_.Add(verbatim.line, object.empty() ? "line over 130 bytes broken"
                                               : "line over 130 bytes in " + object + " broken");
   }
 
+  Module& module_;
   Report& report_;
   std::size_t column_ = 0;
 };
@@ -155,7 +157,7 @@ class LineMender {
 }  // namespace
 
 void FixLines(Module& module, Report& report) {
-  LineMender mender(report);
+  LineMender mender(module, report);
   for (Item& item : module.items) mender.Mend(item);
 }
 

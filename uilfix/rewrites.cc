@@ -55,35 +55,36 @@ void FixModule(Module& module, const Selection& selection, Report& report) {
   }
 }
 
-std::string MendText(std::string_view text, const Selection& selection, Report& report,
-                     const std::vector<GilStart>& starts) {
-  CarriageReturns found;
-  std::string plain;
-  if (text.find('\r') != std::string_view::npos && !selection.off.contains("lineends")) {
-    plain = WithPlainLineEnds(text, &found);
-    text = plain;
-  }
-  // What text in no known form means may change with what is mended in it; so it is mended until
+std::optional<std::string> MendText(std::string_view text, const Selection& selection,
+                                    Report& report, const std::vector<GilStart>& starts) {
+  // What text of no known form means may change with what is mended in it; so it is mended until
   // nothing is left to do. In any other the first round finds everything.
   constexpr int kMostRounds = 10;
   std::string mended;
+  int odd_line = 0;
   for (int round = 0; round < kMostRounds; ++round) {
-    Module module = ParseModule(text);
-    if (round == 0) module.carriage_returns = found;
+    CarriageReturns left_out;
+    std::string plain;
+    const bool line_ends = text.find('\r') != std::string_view::npos;
+    if (line_ends && !selection.off.contains("lineends"))
+      plain = WithPlainLineEnds(text, &left_out);
+    Module module = ParseModule(left_out.count > 0 ? plain : text);
+    module.carriage_returns = left_out;
     module.starts = starts;
     FixModule(module, selection, report);
     std::string result = RenderModule(module);
-    const bool same = result == text;
+    if (result == text || module.odd_line == 0) return result;
+    if (odd_line == 0) odd_line = module.odd_line;
     mended = std::move(result);
     text = mended;
-    if (same || !module.damaged) break;
   }
-  return mended;
+  report.GiveUp(odd_line);
+  return std::nullopt;
 }
 
 std::string FixText(std::string_view text, const std::set<std::string, std::less<>>& off,
                     Report& report) {
-  return MendText(text, Selection{off, {}}, report);
+  return MendText(text, Selection{off, {}}, report).value_or(std::string(text));
 }
 
 }  // namespace uilfix

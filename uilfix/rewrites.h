@@ -7,6 +7,7 @@
 #ifndef PANDREL_UILFIX_REWRITES_H
 #define PANDREL_UILFIX_REWRITES_H
 
+#include <optional>
 #include <set>
 #include <span>
 #include <string>
@@ -42,11 +43,13 @@ const Rewrite* FindRewrite(std::string_view name);
 void FixModule(Module& module, const Selection& selection, Report& report);
 
 // Module text in, module text out; `starts` is from the GIL file that the module was made from, or
-// empty.
-std::string MendText(std::string_view text, const Selection& selection, Report& report,
-                     const std::vector<GilStart>& starts = {});
+// empty. Mending the result changes nothing. Nothing for text that is mended differently each time,
+// which takes text that is not UIL; the report then holds where the first of that stands.
+std::optional<std::string> MendText(std::string_view text, const Selection& selection,
+                                    Report& report, const std::vector<GilStart>& starts = {});
 
-// The same with all but the rewrites in `off`, and none on request.
+// The same with all but the rewrites in `off`, and none on request; the text itself where MendText
+// gives nothing.
 std::string FixText(std::string_view text, const std::set<std::string, std::less<>>& off,
                     Report& report);
 

@@ -8,6 +8,7 @@
 #include <iostream>
 #include <set>
 
+#include "button_icons.h"
 #include "compiler.h"
 #include "gil_names.h"
 #include "open_look_colors.h"
@@ -21,6 +22,8 @@ namespace view {
 namespace {
 
 namespace fs = std::filesystem;
+
+constexpr std::string_view kFolderOption = "-D";
 
 enum class Kind { kGil, kUil, kUid };
 
@@ -41,11 +44,11 @@ Interface Failure(const std::string& error) {
 // file.
 std::vector<std::string> ShadowedOptions(const Options& options, const fs::path& file,
                                          const fs::path& scratch, const fs::path& shadow) {
-  constexpr std::string_view kFolder = "-D";
   std::vector<std::string> shadowed;
   int outside = 0;
   for (const std::string& option : options.converter_options) {
-    const fs::path named = option.starts_with(kFolder) ? option.substr(kFolder.size()) : "";
+    const fs::path named =
+        option.starts_with(kFolderOption) ? option.substr(kFolderOption.size()) : "";
     std::error_code error;
     if (named.empty()) {
       shadowed.push_back(option);
@@ -63,21 +66,34 @@ std::vector<std::string> ShadowedOptions(const Options& options, const fs::path&
     } else {
       const fs::path target = scratch / ("D" + std::to_string(++outside));
       MakeShadow(original, target, 0);
-      shadowed.push_back(std::string(kFolder) + target.string());
+      shadowed.push_back(std::string(kFolderOption) + target.string());
     }
   }
   return shadowed;
 }
 
+// Where the icons of buttons may be: where the converter looks for others, and beside the file.
+IconFolders FoldersOfIcons(const std::vector<std::string>& converter_options,
+                           const fs::path& scratch, const fs::path& folder) {
+  IconFolders folders{{}, scratch, fs::relative(scratch, folder).string()};
+  for (const std::string& option : converter_options) {
+    if (option.starts_with(kFolderOption)) {
+      folders.given.push_back(folder / option.substr(kFolderOption.size()));
+    }
+  }
+  folders.given.push_back(folder);
+  return folders;
+}
+
 // Converts the GIL file into `uil`. Returns what went wrong, or nothing.
-std::string Convert(const Options& options, const fs::path& gil, const fs::path& scratch,
-                    const fs::path& folder, const fs::path& uil) {
+std::string Convert(const Options& options, const std::vector<std::string>& converter_options,
+                    const fs::path& gil, const fs::path& folder, const fs::path& uil) {
   const auto program = FindProgram("pandrel");
   if (!program) return "the converter \"pandrel\" is neither beside this program nor on PATH\n";
   Command command;
   command.arguments.push_back(program->string());
-  const auto given = ShadowedOptions(options, gil, scratch, folder);
-  command.arguments.insert(command.arguments.end(), given.begin(), given.end());
+  command.arguments.insert(command.arguments.end(), converter_options.begin(),
+                           converter_options.end());
   command.arguments.push_back(uil.string());
   command.input = gil;
   command.folder = folder;
@@ -153,16 +169,15 @@ std::set<std::string> LeaveOutStrayChildren(uilfix::Module& module,
   return names;
 }
 
-Interface FromModule(const Options& options, const fs::path& scratch, const fs::path& folder,
-                     std::string text, const std::vector<std::string>& gil_names) {
+// Completes an interface of which the folder is known, and all that is in the GIL file.
+Interface FromModule(const Options& options, const fs::path& scratch, std::string text,
+                     const IconFolders& icons, Interface interface) {
   if (options.fix) text = Mend(options, text);
-  Interface interface;
-  interface.folder = folder;
   interface.has_module = true;
   interface.module = uilfix::ParseModule(text);
-  interface.gil_names = gil_names;
   ReplaceOpenLookColors(interface.module);
-  interface.left_out = LeaveOutStrayChildren(interface.module, gil_names);
+  interface.left_out = LeaveOutStrayChildren(interface.module, interface.gil_names);
+  ShowButtonIcons(interface.module, interface.gil_names, interface.glyph_buttons, icons);
   interface.uid = scratch / "module.uid";
   const fs::path uil = scratch / "module.uil";
   if (!uilfix::WriteFile(uil.string(), uilfix::RenderModule(interface.module))) {
@@ -170,7 +185,7 @@ Interface FromModule(const Options& options, const fs::path& scratch, const fs::
   }
   const Compilation compilation = Compile(uil, interface.uid, interface.module);
   if (!compilation.ok) {
-    return Failure(CompilationError(options, compilation, interface.module, gil_names));
+    return Failure(CompilationError(options, compilation, interface.module, interface.gil_names));
   }
   return interface;
 }
@@ -179,15 +194,19 @@ Interface FromGil(const Options& options, const fs::path& scratch, const fs::pat
   const fs::path folder = scratch / "files";
   MakeShadow(file.parent_path(), folder, 1);
   const fs::path uil = scratch / "converted.uil";
-  const std::string error = Convert(options, file, scratch, folder, uil);
+  const auto given = ShadowedOptions(options, file, scratch, folder);
+  const std::string error = Convert(options, given, file, folder, uil);
   if (!error.empty()) return Failure(error);
   const auto text = uilfix::ReadFile(uil.string());
   if (!text) return Failure("the converter wrote no module\n");
   const std::string gil = ReadGilText(file);
-  Interface interface = FromModule(options, scratch, folder, *text, ReadGilNames(gil));
+  Interface interface;
+  interface.gil_names = ReadGilNames(gil);
   interface.pinned_popups = ReadPinnedPopups(gil);
   interface.glyph_buttons = ReadGlyphButtons(gil);
-  return interface;
+  interface.folder = folder;
+  return FromModule(options, scratch, *text, FoldersOfIcons(given, scratch, folder),
+                    std::move(interface));
 }
 
 Interface FromUid(const fs::path& file) {
@@ -219,9 +238,12 @@ Interface PrepareInterface(const Options& options, const fs::path& scratch) {
   switch (KindOf(file)) {
     case Kind::kUid:
       return FromUid(file);
-    case Kind::kUil:
-      return FromModule(options, scratch, file.parent_path(),
-                        uilfix::ReadFile(file.string()).value_or(""), {});
+    case Kind::kUil: {
+      Interface interface;
+      interface.folder = file.parent_path();
+      return FromModule(options, scratch, uilfix::ReadFile(file.string()).value_or(""), {},
+                        std::move(interface));
+    }
     case Kind::kGil:
       break;
   }

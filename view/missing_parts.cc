@@ -24,6 +24,14 @@ std::string CallArgument(const std::string& value, const std::string& function) 
   return uilfix::PlainString(literal, &inside) ? uilfix::LiteralBytes(inside) : "";
 }
 
+bool KnowsColor(Display* display, const std::string& name) {
+  XColor color;
+  return XParseColor(display, DefaultColormap(display, DefaultScreen(display)), name.c_str(),
+                     &color) != 0;
+}
+
+}  // namespace
+
 bool CanReadBitmap(const std::string& file) {
   unsigned width = 0;
   unsigned height = 0;
@@ -34,14 +42,6 @@ bool CanReadBitmap(const std::string& file) {
   if (status == BitmapSuccess) XFree(data);
   return status == BitmapSuccess;
 }
-
-bool KnowsColor(Display* display, const std::string& name) {
-  XColor color;
-  return XParseColor(display, DefaultColormap(display, DefaultScreen(display)), name.c_str(),
-                     &color) != 0;
-}
-
-}  // namespace
 
 std::vector<MissingPart> FindMissingParts(const uilfix::Module& module, Display* display) {
   std::vector<MissingPart> missing;

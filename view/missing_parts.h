@@ -24,6 +24,9 @@ struct MissingPart {
 // not know, each once per widget, in the order of the module.
 std::vector<MissingPart> FindMissingParts(const uilfix::Module& module, Display* display);
 
+// Whether the file is a bitmap that the toolkit can show. Needs no display.
+bool CanReadBitmap(const std::string& file);
+
 // Draws the box that stands for an icon, the name in it, on a label or button.
 void DrawIconName(Widget widget, const std::string& name);
 

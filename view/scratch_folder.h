@@ -2,11 +2,14 @@
 #ifndef PANDREL_VIEW_SCRATCH_FOLDER_H
 #define PANDREL_VIEW_SCRATCH_FOLDER_H
 
+#include <sys/types.h>
+
 #include <filesystem>
 
 namespace view {
 
-// A new folder that is removed, with everything in it, at the end of its scope.
+// A new folder that is removed, with everything in it, at the end of its scope; by a process that
+// waits for it, when this program and those that it started end without getting there.
 class ScratchFolder {
  public:
   ScratchFolder();
@@ -22,6 +25,7 @@ class ScratchFolder {
 
  private:
   std::filesystem::path path_;
+  pid_t cleaner_ = -1;  // that process
 };
 
 }  // namespace view

@@ -75,9 +75,46 @@ TEST(Rewrites, LongLabelOfSeveralLinesIsBrokenToo) {
   EXPECT_EQ(Fix(fixed), fixed);
 }
 
+// Wherever in its line a comment begins, what stands in it comes to light nowhere.
+TEST(Rewrites, CommentAtTheEndOfALineStaysOne) {
+  for (std::size_t column = 120; column <= 130; ++column) {
+    std::string text = "value\n";
+    while (text.size() < 6 + column) text += "x;";
+    text += "/*c\nobject\nt:XmText{\n\targuments {\n\t\t};\n};\n*/\n";
+    const std::string fixed = Fix(text);
+    EXPECT_LE(LongestLine(fixed), 130u);
+    EXPECT_NE(fixed.find("/*c\nobject\n"), std::string::npos) << fixed;
+  }
+}
+
 TEST(Rewrites, EmptyTextStaysEmpty) {
   EXPECT_EQ(Fix(""), "");
   EXPECT_EQ(Fix("\n"), "\n");
+}
+
+// The shells' heads stand behind declarations, where no head is looked for. Each declaration that
+// is left out for being a second one brings the next head to light.
+std::string HeadsBehindDeclarations(int count) {
+  std::string text = "a:l{;\n";
+  for (int i = 0; i < count; ++i) {
+    text += "\tArguments {\nprocedure p;};\n\x01\nprocedure p;!object\n!:l{\n;\n";
+  }
+  return text;
+}
+
+TEST(Rewrites, OddTextIsMendedUntilNothingIsLeftToDo) {
+  const std::string fixed = Fix(HeadsBehindDeclarations(4));
+  EXPECT_EQ(fixed.find("!:l{"), std::string::npos) << fixed;
+  EXPECT_EQ(Fix(fixed), fixed);
+}
+
+TEST(Rewrites, TextThatIsMendedDifferentlyEachTimeIsRefused) {
+  const std::string text = HeadsBehindDeclarations(20);
+  Report report;
+  EXPECT_EQ(MendText(text, {}, report), std::nullopt);
+  EXPECT_EQ(report.HopelessLine(), 3);
+  EXPECT_TRUE(report.Changes().empty());
+  EXPECT_EQ(FixText(text, {}, report), text);
 }
 
 // Twenty thousand widgets of one name: renaming all but one takes no more than a moment.
