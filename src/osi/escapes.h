@@ -37,8 +37,8 @@ struct OsiFixOptions {
 };
 
 // The escaped copy of `s` (null is empty): `options->buffer` when it is to be reused and is large
-// enough, else a new string (OsiMalloc memory). `options` may be null when `flags` is 0. The texts
-// may lie in the buffer.
+// enough, else a new string (OsiMalloc memory). Null `options` are those of a new record. The
+// texts may lie in the buffer.
 char* OsiStrFixChars(const char* s, const OsiFixOptions* options, unsigned flags);
 
 #endif
