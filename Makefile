@@ -8,7 +8,7 @@ EXAMPLE ?= examples/hello.G
 MAKEFLAGS += --no-print-directory
 
 .PHONY: help setup setup-tests setup-fuzz setup-dev build demo test check install uninstall package package-tests
-.PHONY: asan debug clang coverage bench fuzz stress gallery format lint clean
+.PHONY: asan debug clang coverage bench fuzz mutants stress gallery format lint clean
 
 help: ## this list
 	@sed -n 's/^\([a-z-]*\):.*## /\1\t/p' Makefile | expand -t 14
@@ -64,6 +64,9 @@ fuzz: setup-fuzz ## a minute of fuzzing, all targets
 	cmake --preset $@
 	cmake --build --preset $@ -j $(JOBS)
 	tests/fuzz/run --build build/fuzz
+
+mutants: setup-tests ## change the program in 300 places, one at a time, and list what no test notices (half an hour)
+	scripts/mutants
 
 gallery: setup-tests build ## take the pictures of docs/gallery.md anew
 	@scripts/gallery build/release

@@ -36,7 +36,7 @@ struct OsiFixOptions {
 };
 
 // The escaped copy of `s` (null is empty): in `options->buffer` with kOsiFixReuse when that is
-// large enough, else a new string (OsiMalloc memory). `options` may be null when `flags` is 0. `s`
+// large enough, else a new string (OsiMalloc memory). Null `options` are those of a new record. `s`
 // and the texts of the options may lie in the buffer.
 char* OsiStrFixChars(const char* s, const OsiFixOptions* options, unsigned flags);
 

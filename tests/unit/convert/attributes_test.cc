@@ -117,6 +117,7 @@ TEST_F(TypeAttributes, ListsSelectOneOrSeveral) {
   EXPECT_EQ(Given(SCROLLING_LIST, Tok(MULTIPLE_SELECTIONS, NIL)),
             "XmNselectionPolicy=XmBROWSE_SELECT");
   EXPECT_EQ(Given(SCROLLING_LIST, Int(ROWS, 7)), "XmNvisibleItemCount=7");
+  EXPECT_EQ(Given(SCROLLING_LIST, Strs(ROWS, {})), "XmNvisibleItemCount=0");
 }
 
 TEST_F(TypeAttributes, ListsTakeColorAndStateToo) {
@@ -134,6 +135,7 @@ TEST_F(TypeAttributes, TextFieldsHaveAValue) {
   EXPECT_EQ(Given(TEXT_FIELD, Str(INITIAL_VALUE, "")), "XmNvalue=\"\"");
   EXPECT_EQ(Given(TEXT_FIELD, Int(INITIAL_VALUE, 42)), "XmNvalue=\"42\"");
   EXPECT_EQ(Given(TEXT_FIELD, Id(INITIAL_VALUE, "")), "");
+  EXPECT_EQ(Given(TEXT_FIELD, Id(INITIAL_VALUE, "a")), "XmNvalue=a");
 }
 
 TEST_F(TypeAttributes, TokenForAValueIsReported) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "driver/driver.h"
 
+#include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
@@ -330,6 +331,30 @@ TEST_F(DriverTest, FileThatCannotBeReopenedReadsAsEmpty) {
   close(fd);
   EXPECT_EQ(outcome.out, "Error opening project file a.G\nOpening project subfile: a.G\n");
   EXPECT_EQ(outcome.err, "\n*** 1: Syntax error at \nError: Parse error\n");
+  EXPECT_EQ(outcome.status, -1);
+}
+
+// As long as it lives no file can be opened.
+struct NoMoreFiles {
+  NoMoreFiles() {
+    getrlimit(RLIMIT_NOFILE, &former);
+    const rlimit none = {0, former.rlim_max};
+    setrlimit(RLIMIT_NOFILE, &none);
+  }
+  ~NoMoreFiles() { setrlimit(RLIMIT_NOFILE, &former); }
+  rlimit former{};
+};
+
+TEST_F(DriverTest, RunEndsWhereNoFileCanBeOpenedAnyMore) {
+  dir.Write("a.G", File(Window("a")));
+  SetInput("(:interfaces (a.G))");
+  const Outcome outcome = Run([] {
+    ProcessGILFile(&top_widget);
+    const NoMoreFiles none;
+    ProcessProject();
+  });
+  EXPECT_EQ(outcome.out, "Error opening project file a.G\n");
+  EXPECT_EQ(outcome.err, "");
   EXPECT_EQ(outcome.status, -1);
 }
 

@@ -63,6 +63,11 @@ TEST_F(DumpTest, UnknownKindIsToldAndTheListGoesOn) {
   EXPECT_EQ(DumpAttr(X, list), "Obj: button\n\tx: (Illegal value type: 9\n1 )\n");
 }
 
+TEST_F(DumpTest, StringWithoutATextPrintsAsAnEmptyOne) {
+  EXPECT_EQ(DumpAttr(LABEL, createValue(kStringValue)), "Obj: button\n\tlabel: ( )\n");
+  EXPECT_EQ(DumpAttr(LABEL, createValue(3)), "Obj: button\n\tlabel: (ID: )\n");
+}
+
 TEST_F(DumpTest, NullValuePrintsNothingBetweenTheParentheses) {
   EXPECT_EQ(DumpAttr(USER_DATA, nullptr), "Obj: button\n\tuser-data: ()\n");
 }

@@ -411,6 +411,7 @@ TEST_F(ScannerTest, ResetStartsTheLinesAnew) {
   ResetScanner();
   EXPECT_EQ(yylineno, 1);
   EXPECT_EQ(yyleng, 0U);
+  EXPECT_STREQ(yytext, "");
 }
 
 // The limit

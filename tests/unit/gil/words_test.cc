@@ -123,6 +123,8 @@ TEST(WordsTest, StandAtTheirTokens) {
   for (int32_t token = kFirstToken; token <= kLastToken; ++token) {
     EXPECT_EQ(WordOfToken(token)->token, token);
   }
+  EXPECT_EQ(kFirstWord->token, kFirstToken);
+  EXPECT_EQ(kLastWord->token, kLastToken);
   EXPECT_EQ(WordOfToken(kFirstToken - 1), nullptr);
   EXPECT_EQ(WordOfToken(kLastToken + 1), nullptr);
   EXPECT_EQ(WordOfToken(END_OF_INPUT), nullptr);

@@ -124,6 +124,18 @@ TEST_F(LayoutTiling, InsertionFillsTheSlotsBehindWithTheFirst) {
   EXPECT_EQ(slots[3], a);
 }
 
+TEST_F(LayoutTiling, InsertingWritesNothingBehindTheLastWidget) {
+  Widg* behind = Placed("z", 0, 0, 0, 0);
+  Widg* array[8] = {nullptr, nullptr, nullptr, nullptr, nullptr, behind, behind, behind};
+  int32_t count = 0;
+  for (const int32_t x : {10, 20, 30, 40, 25}) {
+    InsertByPosition(array, &count, Placed("a", x, 0, 0, 0), kPositionLeft);
+  }
+  EXPECT_EQ(count, 5);
+  EXPECT_EQ(array[2]->x, 25);
+  for (int i = 5; i < 8; ++i) EXPECT_EQ(array[i], behind);
+}
+
 TEST_F(LayoutTiling, The129thWidgetIsDropped) {
   Widg* array[kMaxPositions];
   int32_t count = 0;

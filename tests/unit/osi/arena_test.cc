@@ -3,6 +3,7 @@
 #include "osi/arena_testing.h"
 
 #include <gtest/gtest.h>
+#include <malloc.h>
 
 #include <cstdint>
 #include <cstring>
@@ -105,6 +106,15 @@ TEST_F(ArenaTest, ResetLiftsTheLimitAndMayBeRepeated) {
   ArenaReset();
   ArenaReset();
   EXPECT_NE(ArenaAlloc(8), nullptr);
+}
+
+TEST_F(ArenaTest, ResetGivesTheMemoryBack) {
+  // The allocator maps a block of this size by itself, and counts it.
+  const std::size_t before = mallinfo2().hblkhd;
+  EXPECT_NE(ArenaAlloc(100'000'000), nullptr);
+  EXPECT_NE(ArenaAlloc(100'000'000), nullptr);
+  ArenaReset();
+  EXPECT_EQ(mallinfo2().hblkhd, before);
 }
 
 #ifndef PANDREL_SANITIZED  // the sanitizer's allocator ends the program for such a size

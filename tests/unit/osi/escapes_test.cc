@@ -36,6 +36,9 @@ TEST(OsiStrFixChars, LeavesEveryOtherByteAlone) {
 
 TEST(OsiStrFixChars, TakesNullAsEmpty) {
   EXPECT_EQ(Fix(nullptr), "");
+  constexpr unsigned kAll =
+      kOsiFixMap | kOsiFixPrefix | kOsiFixSuffix | kOsiFixBreak | kOsiFixReuse;
+  EXPECT_EQ(Take(OsiStrFixChars("a\tb", nullptr, kAll)), "a\\tb");
   EXPECT_EQ(Fix(""), "");
 }
 

@@ -8,14 +8,26 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
+#include <random>
 #include <string>
 #include <vector>
 
 #include "osi/memory.h"
 #include "unit/osi/owned.h"
 #include "unit/osi/surroundings.h"
+
+// What arc4random gives next, in the place of the library's own.
+static std::vector<uint32_t> chosen_numbers;
+
+extern "C" uint32_t arc4random() noexcept {
+  if (chosen_numbers.empty()) return std::random_device()();
+  const uint32_t number = chosen_numbers.back();
+  chosen_numbers.pop_back();
+  return number;
+}
 
 namespace {
 
@@ -304,6 +316,21 @@ TEST(OsiTmpNam, NamesANewFileInTheTemporaryDirectory) {
   name[24] = '\0';  // the block has 25 bytes: the sanitizer would notice fewer
   OsiFree(name);
   OsiFree(other);
+}
+
+TEST(OsiTmpNam, PassesOverNamesThatAreTaken) {
+  char* taken = OsiTmpNam();
+  close(open(taken, O_CREAT | O_EXCL | O_WRONLY, 0600));
+  const auto number =
+      static_cast<uint32_t>(std::strtoul(taken + std::strlen(taken) - 8, nullptr, 16));
+  chosen_numbers = {number + 1, number, number};
+  char* name = OsiTmpNam();
+  EXPECT_EQ(chosen_numbers.size(), 0U);
+  EXPECT_STRNE(name, taken);
+  EXPECT_FALSE(OsiFileExists(name));
+  unlink(taken);
+  OsiFree(name);
+  OsiFree(taken);
 }
 
 // Runs in a child: ends with status 0 when a name is had without file descriptors.

@@ -125,6 +125,10 @@ TEST(OsiRemoveEndDigits, CutsATrailingNumberAndGivesIt) {
   EXPECT_EQ(Remove("name12"), Left(12, "name"));
   EXPECT_EQ(Remove("name007"), Left(7, "name"));
   EXPECT_EQ(Remove("a1b2"), Left(2, "a1b"));
+  EXPECT_EQ(Remove("name20394"), Left(20394, "name"));
+  EXPECT_EQ(Remove("name56789"), Left(56789, "name"));
+  EXPECT_EQ(Remove("a/1"), Left(1, "a/"));
+  EXPECT_EQ(Remove("a:1"), Left(1, "a:"));
   EXPECT_EQ(Remove("abc"), Left(0, "abc"));
   EXPECT_EQ(Remove("abc0"), Left(0, "abc"));
 }

@@ -83,6 +83,26 @@ TEST_F(OsiSigchldTest, CallsTheHandlerWhenAChildEnds) {
   EXPECT_EQ(last_signal, SIGCHLD);
 }
 
+TEST_F(OsiSigchldTest, LetsAReadThatItInterruptedGoOn) {
+  OsiSigchld(HandlerA, true);
+  int ends[2];
+  ASSERT_EQ(pipe(ends), 0);
+  const pid_t pid = fork();
+  if (pid == 0) {
+    usleep(50000);  // the parent waits in its read by now
+    kill(getppid(), SIGCHLD);
+    usleep(50000);
+    _exit(write(ends[1], "x", 1) == 1 ? 0 : 1);
+  }
+  ASSERT_GT(pid, 0);
+  char byte = 0;
+  EXPECT_EQ(read(ends[0], &byte, 1), 1);
+  EXPECT_EQ(byte, 'x');
+  EXPECT_EQ(ExitStatusOf(pid), 0);
+  close(ends[0]);
+  close(ends[1]);
+}
+
 TEST_F(OsiSigchldTest, InstallsTheActionWithTheFirstHandler) {
   EXPECT_TRUE(IsDefaultAction());
   OsiSigchld(HandlerA, true);

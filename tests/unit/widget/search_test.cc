@@ -73,6 +73,21 @@ TEST_F(WidgSearch, WidgetIsFoundByTheNameItWasGivenLast) {
   EXPECT_EQ(FindWidg(tree, "item"), nullptr);
 }
 
+TEST_F(WidgSearch, EveryChangeOfANameIsSeen) {
+  Widg* widg = NewWidg("XmForm", "itemb", {Leaf("b")});
+  Widg* tree = TopLevel({Leaf("a"), widg});
+  EXPECT_EQ(FindWidg(tree, "itemb"), widg);
+  EXPECT_EQ(FindWidgWithChild(tree, "itemb"), widg);
+  // The names before and behind it in the alphabet, and those further off.
+  for (const char* name : {"itema", "itemb", "itemc", "item", "zoo", "item"}) {
+    const std::string former = widg->gil_name;
+    SetGilName(widg, Writable(name));
+    EXPECT_EQ(FindWidg(tree, name), widg) << name;
+    EXPECT_EQ(FindWidgWithChild(tree, name), widg) << name;
+    EXPECT_EQ(FindWidg(tree, former.c_str()), former == name ? widg : nullptr) << former;
+  }
+}
+
 // Of so many namesakes the search remembers which one it found.
 TEST_F(WidgSearch, OneOfManyNamesakesIsFoundAsTheTreeStands) {
   constexpr int kMany = 40;
@@ -160,6 +175,25 @@ TEST_F(WidgSearch, ClaimedMenuOfTheTopLevelHasItsUserForAParent) {
   EXPECT_EQ(FindWidg(tree, "menu"), menu);
 }
 
+TEST_F(WidgSearch, ItemOfADroppedMenuIsFoundWhereItIsLinkedNext) {
+  Widg* button = NewWidg("XmCascadeButton", "button");
+  Widg* window = NewWidg("TopLevelShell", "window", {NewWidg("XmForm", "form", {Leaf("item")})});
+  Widg* tree = TopLevel({NewWidg("TopLevelShell", "first", {button}), window});
+  // The next file: a menu that an earlier window claims.
+  Widg* item = Leaf("item");
+  Widg* menu = NewWidg("XmPulldownMenu", "menu", {item});
+  TopLevel({menu});
+  SetChildren(button, menu);
+  EXPECT_EQ(FindWidg(tree, "item"), item);
+  DropTopLevel(menu);
+  MenusAreDropped();
+  RelinkTopLevel(&window->next, nullptr);
+  EXPECT_EQ(FindWidg(tree, "item"), window->child->child);
+  AddChildWidg(window, NewWidg("XmForm", "other"));
+  SetChildren(LastSibling(window->child), item);
+  EXPECT_EQ(FindWidg(tree, "item"), item);
+}
+
 TEST_F(WidgSearch, IsChildLooksAtTheDirectChildrenOnly) {
   Widg* leaf = Leaf("c");
   Widg* middle = NewWidg("XmForm", "b", {leaf});
@@ -186,6 +220,17 @@ TEST_F(WidgSearch, WidgetBelowItselfDoesNotStopASearch) {
   EXPECT_EQ(FindWidgWithChild(tree, "absent"), nullptr);
   EXPECT_EQ(FindParentOfWidg(tree, Leaf("stranger")), nullptr);
   EXPECT_EQ(FindParentOfWidg(tree, wanted), loop);
+}
+
+TEST_F(WidgSearch, WidgetBelowItselfIsFoundOnceItIsLinked) {
+  Widg* wanted = Leaf("item");
+  Widg* loop = NewWidg("XmForm", "loop", {wanted});
+  Widg* tree = TopLevel({NewWidg("XmForm", "window")});
+  EXPECT_EQ(FindWidg(tree, "item"), nullptr);
+  AddChildWidg(wanted, loop);
+  AddChildWidg(tree, wanted);
+  EXPECT_EQ(FindWidg(tree, "item"), wanted);
+  EXPECT_EQ(FindWidg(tree, "loop"), loop);
 }
 
 TEST_F(WidgSearch, WidgetsSharedLevelByLevelAreSearchedInReasonableTime) {
