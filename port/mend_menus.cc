@@ -24,8 +24,8 @@ bool HasSubMenus(const Widg* menu) {
   return std::any_of(items.begin(), items.end(), [](const Widg* item) { return item->child; });
 }
 
-// A menu's names of sub-menus stand in the file's order and its other lists in reverse, and the
-// conversion walks them in step: the first item got the last one's menu.
+// A menu's names of sub-menus are in the file's order and its other lists in reverse, and the
+// conversion walks them in step: the first item gets the menu of the last.
 void MirrorSubMenus(Session& session, const Widg* menu, const PortObject& object) {
   const std::vector<Widg*> items = ItemsOf(menu);
   const GilAttribute* labels = object.Find(MENU_ITEM_LABELS);

@@ -230,7 +230,7 @@ static void SetResource(Widget widget, char* resource, char* value) {
   }
   XtVaSetValues(widget, XtVaTypedArg, resource, XtRString, value, (int)strlen(value) + 1,
                 (char*)NULL);
-  /* Showing brings to the front, as in OPEN LOOK: panels that lie upon each other take turns by it. */
+  /* Showing also raises, as in OPEN LOOK, where it selects one of several panels in one place. */
   if (strcmp(resource, XtNmappedWhenManaged) == 0 && XtIsWidget(widget) && XtIsRealized(widget) &&
       IsTrue(widget, value)) {
     XRaiseWindow(XtDisplay(widget), XtWindow(widget));

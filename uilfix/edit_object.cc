@@ -22,7 +22,7 @@ Place FindMark(Place begin, Place end, Mark mark) {
   return std::find_if(begin, end, [&](const Entry& entry) { return MarkOf(entry) == mark; });
 }
 
-// Where the section ends whose head is at `head`; `end` when another begins without that.
+// The end of the section whose head is at `head`; `end` when another one begins before that.
 Place SectionEnd(Place head, Place end) {
   const Place next =
       std::find_if(head + 1, end, [](const Entry& entry) { return MarkOf(entry) != Mark::kNone; });

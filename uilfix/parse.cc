@@ -38,8 +38,8 @@ constexpr std::array<SectionLine, 7> kSectionLines = {{
     {"\n", Mark::kNone},
 }};
 
-// Objects take this many bytes at least, with the blank line between them. Memory that is set aside
-// for more of them than there are costs nothing; moving them does.
+// The least bytes of an object, with the blank line between objects. Reserving memory for too many
+// costs nothing; moving them does.
 constexpr std::size_t kSmallObject = 80;
 
 // The mark of a line in a commented object, or of one that fits no form.
@@ -232,9 +232,9 @@ class Parser {
     }
   }
 
-  // The lines between two entries, as pandrel writes them, in one: half of a module is such lines.
-  // Those that end the object, and those behind the head of the arguments, where more may be added,
-  // stand by themselves.
+  // All lines between two entries, as pandrel writes them, as one record: half of a module is such
+  // lines. Lines that end the object, and those behind the head of the arguments, where more may be
+  // added, are records of their own.
   std::optional<Entry> TakeSectionLines(const Object& object, Mark section) {
     if (object.IsComment()) return std::nullopt;
     const std::size_t begin = Pos();

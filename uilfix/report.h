@@ -10,8 +10,8 @@
 namespace uilfix {
 
 struct Change {
-  // In the module as read. What is found only when other odd text is mended has its line in the
-  // module as mended until then.
+  // In the module as read; for what is found only after other odd text was mended, in the module as
+  // mended by then.
   int line = 0;
   std::string_view rewrite;  // the name of the switch that turns it off
   std::string text;

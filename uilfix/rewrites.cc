@@ -57,8 +57,8 @@ void FixModule(Module& module, const Selection& selection, Report& report) {
 
 std::optional<std::string> MendText(std::string_view text, const Selection& selection,
                                     Report& report, const std::vector<GilStart>& starts) {
-  // What text of no known form means may change with what is mended in it; so it is mended until
-  // nothing is left to do. In any other the first round finds everything.
+  // A change in text of no known form may change the meaning of the rest, so mend it until nothing
+  // is left to do. In any other text the first round finds everything.
   constexpr int kMostRounds = 10;
   std::string mended;
   int odd_line = 0;

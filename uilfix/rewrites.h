@@ -43,13 +43,14 @@ const Rewrite* FindRewrite(std::string_view name);
 void FixModule(Module& module, const Selection& selection, Report& report);
 
 // Module text in, module text out; `starts` is from the GIL file that the module was made from, or
-// empty. Mending the result changes nothing. Nothing for text that is mended differently each time,
-// which takes text that is not UIL; the report then holds where the first of that stands.
+// empty. Mending the result changes nothing. Returns nothing when each mending would change the
+// text again, which happens only with text that is not UIL; the report then has the first line of
+// that.
 std::optional<std::string> MendText(std::string_view text, const Selection& selection,
                                     Report& report, const std::vector<GilStart>& starts = {});
 
-// The same with all but the rewrites in `off`, and none on request; the text itself where MendText
-// gives nothing.
+// The same with all but the rewrites in `off`, and none on request. Returns the text itself when
+// MendText returns nothing.
 std::string FixText(std::string_view text, const std::set<std::string, std::less<>>& off,
                     Report& report);
 

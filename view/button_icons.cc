@@ -12,7 +12,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// What the converter does with other icons.
+// The command with which the converter converts other icons.
 constexpr char kToBitmap[] = "icontopbm \"$1\" | pbmtoxbm > \"$2\"";
 
 // Makes `bitmap` from the icon's file, or from a bitmap that the user made of it. Returns whether

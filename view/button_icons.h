@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The icons of push buttons. The converter leaves such a button the name of the icon's file for a
-// label; here it gets the icon, where that is found.
+// The icons of push buttons. In the module the label of such a button is the name of the icon's
+// file; this gives it the icon if there is one.
 #ifndef PANDREL_VIEW_BUTTON_ICONS_H
 #define PANDREL_VIEW_BUTTON_ICONS_H
 
@@ -13,7 +13,7 @@
 
 namespace view {
 
-// Where the files of icons are looked for, in this order, and where bitmaps may be written.
+// The folders in which to look for icons, in this order, and the one for new bitmaps.
 struct IconFolders {
   std::vector<std::filesystem::path> given;
   std::filesystem::path bitmaps;

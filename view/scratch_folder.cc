@@ -21,9 +21,10 @@ void RemoveFolder(const fs::path& folder) {
   if (!folder.empty()) fs::remove_all(folder, error);
 }
 
-// In a process of its own: removes the folder when the other end of the pipe `ends` is closed
-// everywhere. It has its own session, which spares it the terminal's signals, holds no stream that
-// others may wait for, and has a name by which nobody kills the viewer.
+// Runs in a process of its own: removes the folder when the other end of the pipe `ends` is closed
+// everywhere. The process has its own session, so that it gets no signals of the terminal; no
+// stream on which others may wait; and another name than the viewer, so that nobody kills both by
+// name.
 [[noreturn]] void KeepWatch(const fs::path& folder, const int (&ends)[2]) {
   setsid();
   prctl(PR_SET_NAME, "view-cleaner");

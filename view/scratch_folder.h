@@ -8,8 +8,9 @@
 
 namespace view {
 
-// A new folder that is removed, with everything in it, at the end of its scope; by a process that
-// waits for it, when this program and those that it started end without getting there.
+// A new folder that the end of its scope removes, with everything in it. If this program ends
+// without getting there, a process that waits for its end, and for that of the programs it started,
+// does so.
 class ScratchFolder {
  public:
   ScratchFolder();
