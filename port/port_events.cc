@@ -43,10 +43,6 @@ constexpr std::string_view kWidgetEvents[] = {"AnyEvent", "Enter",      "Exit", 
 // What only a window inside of a shell can take.
 constexpr std::string_view kDrop = "DroppedUpon";
 
-bool IsShell(const Widg* widg) {
-  return IsClass(widg, "TopLevelShell") || IsClass(widg, "XmDialogShell");
-}
-
 bool IsItem(const Widg* widg) {
   return IsClass(widg, "XmPushButton") || IsClass(widg, "XmToggleButton") ||
          IsClass(widg, "XmCascadeButton");

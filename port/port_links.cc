@@ -18,10 +18,6 @@ constexpr std::array<std::string_view, 11> kSuffixes = {
     "_label",    "_rc",     "_sw",    "_form",        "_frame",          "_title",
     "_toggle_b", "_push_b", "choice", "_option_menu", "_option_pulldown"};
 
-bool IsShell(const Widg* widg) {
-  return IsClass(widg, "TopLevelShell") || IsClass(widg, "XmDialogShell");
-}
-
 // Appends the widgets below the top level to those of the session, parents first, each once. Skips
 // a widget that is not written with all below it.
 std::vector<Widg*> CollectNew(Session& session) {

@@ -14,10 +14,6 @@ bool IsMenu(const Widg* widg) {
          IsClass(widg, "XmUnknownMenu");
 }
 
-bool IsShell(const Widg* widg) {
-  return IsClass(widg, "TopLevelShell") || IsClass(widg, "XmDialogShell");
-}
-
 void ReadResource(const Resource& resource, PortWindow& window) {
   const std::string name(resource.name);
   const std::string value = resource.value ? resource.value : "";

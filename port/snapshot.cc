@@ -81,10 +81,10 @@ Connection CopyAction(const Action& action, int file, int object) {
 }
 
 void CopyActions(Session& session, const Action* actions, int file, int object) {
-  std::vector<const Action*> list;
-  for (const Action* action = actions; action; action = action->next) list.push_back(action);
-  std::reverse(list.begin(), list.end());
-  for (const Action* action : list) {
+  std::vector<const Action*> in_order;
+  for (const Action* action = actions; action; action = action->next) in_order.push_back(action);
+  std::reverse(in_order.begin(), in_order.end());
+  for (const Action* action : in_order) {
     Connection copy = CopyAction(*action, file, object);
     copy.number = static_cast<int>(session.model.connections.size());
     session.model.connections.push_back(std::move(copy));
@@ -109,10 +109,10 @@ void LinkOwners(Model& model, int file) {
 
 void CopyObjects(Session& session, int file, Obj* parsed) {
   Model& model = session.model;
-  std::vector<Obj*> list;
-  for (Obj* obj = parsed; obj; obj = obj->next) list.push_back(obj);
-  std::reverse(list.begin(), list.end());
-  for (Obj* obj : list) {
+  std::vector<Obj*> in_order;
+  for (Obj* obj = parsed; obj; obj = obj->next) in_order.push_back(obj);
+  std::reverse(in_order.begin(), in_order.end());
+  for (Obj* obj : in_order) {
     const int index = static_cast<int>(model.objects.size());
     model.objects.push_back(CopyObject(*obj, file));
     model.files[file].objects.push_back(index);

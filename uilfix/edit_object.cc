@@ -9,7 +9,7 @@ namespace {
 
 using Place = std::vector<Entry>::iterator;
 
-bool IsBlank(const std::string& text) {
+bool IsBlankText(const std::string& text) {
   return text.find_first_not_of(" \t\n\r") == std::string::npos;
 }
 
@@ -35,7 +35,7 @@ Argument Beside(const Object& object, const Entry& neighbour) {
   argument.line = object.line;
   argument.lead = object.prefix + "\t\t";
   const auto* model = std::get_if<Argument>(&neighbour);
-  if (model && IsBlank(model->lead)) argument.lead = model->lead;
+  if (model && IsBlankText(model->lead)) argument.lead = model->lead;
   const bool own_line = !model || !model->layout || model->layout->tail.ends_with('\n');
   if (!own_line) argument.layout = std::make_shared<const Layout>(Layout{"", " = ", ";"});
   return argument;

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "uilfix/gil_starts.h"
 
-#include <cctype>
 #include <charconv>
+
+#include "uilfix/characters.h"
 
 namespace uilfix {
 namespace {
-
-bool IsBlank(char c) { return std::isspace(static_cast<unsigned char>(c)) != 0; }
 
 // Takes the next word, string or parenthesis off a GIL text; empty at its end. A comment runs from
 // a semicolon to the line's end.

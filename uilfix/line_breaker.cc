@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cctype>
 
+#include "uilfix/characters.h"
 #include "uilfix/literals.h"
 
 namespace uilfix {
@@ -11,8 +12,6 @@ namespace {
 
 // A comment that begins so far to the right goes to a line of its own.
 constexpr std::size_t kLastCommentColumn = 100;
-
-bool IsBlank(char c) { return std::isspace(static_cast<unsigned char>(c)) != 0; }
 
 std::size_t LineSize(std::string_view text) { return std::min(text.find('\n'), text.size()); }
 

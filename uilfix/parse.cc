@@ -16,8 +16,6 @@
 namespace uilfix {
 namespace {
 
-constexpr std::size_t kNone = std::string_view::npos;
-
 bool IsWordChar(char c) {
   return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_';
 }

@@ -3,17 +3,15 @@
 
 #include <cctype>
 
+#include "uilfix/characters.h"
 #include "uilfix/literals.h"
 
 namespace uilfix {
 namespace {
 
-constexpr std::size_t kNone = std::string_view::npos;
 constexpr std::string_view kPunctuation = ":;,={}()[]&\"'!/#+-*~|^<>";
 
-bool IsBlank(char c) { return std::isspace(static_cast<unsigned char>(c)) != 0; }
-
-bool IsWordChar(char c) {
+bool IsOfWord(char c) {
   return !IsBlank(c) && c != '\0' && kPunctuation.find(c) == std::string_view::npos;
 }
 
@@ -57,7 +55,7 @@ class Scanner {
   std::size_t Reach() const { return reach_; }
 
   std::size_t Word(std::size_t pos) const {
-    while (pos < text_.size() && IsWordChar(text_[pos])) ++pos;
+    while (pos < text_.size() && IsOfWord(text_[pos])) ++pos;
     return pos;
   }
 

@@ -8,11 +8,15 @@
 #define PANDREL_UILFIX_PARSE_FREE_H
 
 #include <optional>
+#include <string_view>
 
 #include "uilfix/cursor.h"
 #include "uilfix/module.h"
 
 namespace uilfix {
+
+// In place of a position: there is none.
+inline constexpr std::size_t kNone = std::string_view::npos;
 
 // Which definitions stand behind each other, by the keyword in front of the first.
 enum class Definitions { kOther, kObjects, kProcedures };

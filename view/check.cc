@@ -11,6 +11,7 @@
 
 #include <algorithm>
 
+#include "geometry_text.h"
 #include "gil_names.h"
 #include "label_text.h"
 #include "widget_tree.h"
@@ -206,12 +207,6 @@ std::string Named(const std::string& widget, const std::string& object) {
   return object.empty() || object == widget ? widget : widget + " (GIL object " + object + ")";
 }
 
-std::string Signed(int number) { return (number < 0 ? "" : "+") + std::to_string(number); }
-
-std::string Size(int width, int height) {
-  return std::to_string(width) + "x" + std::to_string(height);
-}
-
 }  // namespace
 
 std::vector<Finding> CheckWindow(const Window& window, const std::vector<std::string>& gil_names) {
@@ -226,9 +221,9 @@ std::vector<Finding> CheckWindow(const Window& window, const std::vector<std::st
 std::string Sentence(const Finding& finding) {
   const std::string subject = Named(finding.widget, finding.object);
   const std::string place = finding.window + ": " + subject + " " +
-                            Size(finding.at.width, finding.at.height) + Signed(finding.at.x) +
-                            Signed(finding.at.y);
-  const std::string amount = Size(finding.across, finding.down);
+                            SizeText(finding.at.width, finding.at.height) +
+                            PlaceText(finding.at.x, finding.at.y);
+  const std::string amount = SizeText(finding.across, finding.down);
   switch (finding.kind) {
     case Finding::Kind::kOverlap:
       return place + " overlaps " + Named(finding.other, finding.other_object) + " by " + amount;

@@ -1,14 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "label_text.h"
 
-#include <memory>
-
 namespace view {
 namespace {
-
-struct Freed {
-  void operator()(char* text) const { XtFree(text); }
-};
 
 XmParseMapping SeparatorsAsLineEnds() {
   static char newline[] = "\n";
@@ -27,7 +21,7 @@ std::string LabelString(Widget widget) {
   static XmParseMapping line_ends = SeparatorsAsLineEnds();
   XmString label = nullptr;
   XtVaGetValues(widget, XmNlabelString, &label, nullptr);
-  const std::unique_ptr<char, Freed> text(static_cast<char*>(XmStringUnparse(
+  const ToolkitText text(static_cast<char*>(XmStringUnparse(
       label, nullptr, XmCHARSET_TEXT, XmCHARSET_TEXT, &line_ends, 1, XmOUTPUT_ALL)));
   XmStringFree(label);
   return text ? text.get() : "";

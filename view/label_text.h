@@ -5,9 +5,16 @@
 
 #include <Xm/Xm.h>
 
+#include <memory>
 #include <string>
 
 namespace view {
+
+// A text that the toolkit made for its caller.
+struct FreedByToolkit {
+  void operator()(char* text) const { XtFree(text); }
+};
+using ToolkitText = std::unique_ptr<char, FreedByToolkit>;
 
 // The text, a line feed for each line end in it. The widget must be a label or label gadget.
 std::string LabelString(Widget widget);

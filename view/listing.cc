@@ -10,18 +10,12 @@
 #include <Xm/TextF.h>
 #include <Xm/ToggleB.h>
 
-#include <memory>
-
+#include "geometry_text.h"
 #include "label_text.h"
 #include "widget_tree.h"
 
 namespace view {
 namespace {
-
-struct Freed {
-  void operator()(char* text) const { XtFree(text); }
-};
-using Text = std::unique_ptr<char, Freed>;
 
 // Bytes that end a line or a quotation are escaped, so that a widget takes one line.
 std::string Quoted(const char* text) {
@@ -48,8 +42,8 @@ std::string Contents(Widget widget) {
     const bool set = XmIsToggleButton(widget) && XmToggleButtonGetState(widget);
     return LabelText(widget) + (set ? " set" : "");
   }
-  if (XmIsText(widget)) return " value=" + Quoted(Text(XmTextGetString(widget)).get());
-  if (XmIsTextField(widget)) return " value=" + Quoted(Text(XmTextFieldGetString(widget)).get());
+  if (XmIsText(widget)) return " value=" + Quoted(ToolkitText(XmTextGetString(widget)).get());
+  if (XmIsTextField(widget)) return " value=" + Quoted(ToolkitText(XmTextFieldGetString(widget)).get());
   if (XmIsList(widget)) {
     int count = 0;
     XtVaGetValues(widget, XmNitemCount, &count, nullptr);
@@ -68,16 +62,11 @@ std::string State(Widget widget) {
   return state;
 }
 
-std::string Signed(int number) {
-  std::string text = std::to_string(number);
-  return number < 0 ? text : "+" + text;
-}
-
 std::string Geometry(Widget widget, int x, int y) {
   Dimension width = 0;
   Dimension height = 0;
   XtVaGetValues(widget, XmNwidth, &width, XmNheight, &height, nullptr);
-  return std::to_string(width) + "x" + std::to_string(height) + Signed(x) + Signed(y);
+  return SizeText(width, height) + PlaceText(x, y);
 }
 
 // `x` and `y` are the place of the parent's corner in the window.

@@ -11,13 +11,14 @@
 //   picture.h, listing.h, check.h   what can be had instead of a running interface
 #include <iostream>
 
+#include "program_name.h"
 #include "supervisor.h"
 #include "view_options.h"
 #include "view_session.h"
 
 int main(int argc, char** argv) {
   using view::Options;
-  constexpr char kProgram[] = "pandrel-view";
+  using view::kProgram;
   const Options options = view::ParseOptions({argv + 1, argv + argc});
   switch (options.action) {
     case Options::Action::kHelp:

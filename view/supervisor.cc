@@ -18,6 +18,7 @@
 #include "input.h"
 #include "private_server.h"
 #include "process.h"
+#include "program_name.h"
 #include "scratch_folder.h"
 #include "signals.h"
 #include "view_session.h"
@@ -28,12 +29,10 @@ namespace {
 namespace fs = std::filesystem;
 using std::chrono::milliseconds;
 
-constexpr char kProgram[] = "pandrel-view";
-
 // Longer than reading any module takes. The resource manager may loop on a damaged one.
 constexpr milliseconds kLoadLimit{60'000};
 // For a process to end after it was asked to.
-constexpr milliseconds kEndLimit{2'000};
+constexpr milliseconds kWorkerEndLimit{2'000};
 // Editors write a file in several steps; this is how long it has to stay as it is.
 constexpr milliseconds kUnchanged{150};
 
@@ -162,7 +161,7 @@ class Supervisor {
           Reload();
           break;
         case Event::kEnded: {
-          const int status = EndChild(TakeWorker(), kEndLimit, SIGKILL);
+          const int status = EndChild(TakeWorker(), kWorkerEndLimit, SIGKILL);
           if (WIFEXITED(status)) return WEXITSTATUS(status);
           TellCrash(WTERMSIG(status));
           if (!watch_) return kFailure;
@@ -202,7 +201,7 @@ class Supervisor {
     const pid_t process = TakeWorker();
     if (process <= 0) return;
     kill(process, signal);
-    EndChild(process, kEndLimit, SIGKILL);
+    EndChild(process, kWorkerEndLimit, SIGKILL);
   }
 
   const Options& options_;

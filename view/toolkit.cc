@@ -6,10 +6,11 @@
 #include <iostream>
 #include <thread>
 
+#include "program_name.h"
+
 namespace view {
 namespace {
 
-constexpr char kProgram[] = "pandrel-view";
 constexpr char kClass[] = "PandrelView";
 
 // How long a window manager may take to answer.

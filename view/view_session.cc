@@ -22,6 +22,7 @@
 #include "picture.h"
 #include "places.h"
 #include "popup_menus.h"
+#include "program_name.h"
 #include "screenshots.h"
 #include "stubs.h"
 #include "uid_names.h"
@@ -32,8 +33,6 @@
 
 namespace view {
 namespace {
-
-constexpr char kProgram[] = "pandrel-view";
 
 int Fail(const std::string& message) {
   std::cerr << kProgram << ": " << message << std::endl;

@@ -10,13 +10,12 @@
 #include <algorithm>
 #include <iostream>
 
+#include "program_name.h"
 #include "widget_tree.h"
 #include "zo.h"
 
 namespace view {
 namespace {
-
-constexpr char kProgram[] = "pandrel-view";
 
 // A window without contents and without a size cannot be realised.
 constexpr Dimension kEmptyWidth = 200;

@@ -31,10 +31,6 @@ void Put(std::initializer_list<std::string_view> parts) {
 // A text that may be missing.
 std::string_view Optional(const char* part) { return part ? part : ""; }
 
-bool IsShell(const Widg* widg) {
-  return IsClass(widg, "TopLevelShell") || IsClass(widg, "XmDialogShell");
-}
-
 bool IsWritten(const Widg* widg) { return OsiStrlen(widg->class_name) > 0; }
 
 // UIL has no shells. They stand in the module as comments: each of their lines begins with a mark,

@@ -76,6 +76,11 @@ inline bool IsClass(const Widg* widg, const char* class_name) {
   return OsiStrcmp(widg->class_name, class_name) == 0;
 }
 
+// Whether the widget is a window: of its own, or a dialog's.
+inline bool IsShell(const Widg* widg) {
+  return IsClass(widg, "TopLevelShell") || IsClass(widg, "XmDialogShell");
+}
+
 // The last widget of the list that `widg` is in or begins; null for null.
 Widg* LastSibling(Widg* widg);
 

@@ -13,6 +13,7 @@ target_compile_options(gil_mutator PRIVATE -O2)
 # An executable of the target's own file, `main` (a source, or nothing for libFuzzer's) and what it needs.
 function(add_fuzz_executable name target main)
   add_executable(${name} ${fuzz_dir}/fuzz_${target}.cc ${main})
+  set_target_properties(${name} PROPERTIES UNITY_BUILD OFF)
   if(target STREQUAL mender)
     target_link_libraries(${name} PRIVATE pandrel_uilfix)
     return()

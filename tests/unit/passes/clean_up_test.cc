@@ -20,7 +20,6 @@ class CleanUp : public SessionFixture {
 
 Widg* Shell(const char* name) { return NewWidg("TopLevelShell", name); }
 Widg* Pulldown(const char* name) { return NewWidg("XmPulldownMenu", name); }
-Widg* Popup(const char* name) { return NewWidg("XmPopupMenu", name); }
 Widg* Unclaimed(const char* name) { return NewWidg("XmUnknownMenu", name); }
 
 void RunCleanUp() { top_widget = CleanUpTopLevelHierarchy(&top_widget); }

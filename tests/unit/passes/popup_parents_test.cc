@@ -13,7 +13,6 @@ namespace {
 
 using PopupParents = SessionFixture;
 
-Widg* Popup(const char* name) { return NewWidg("XmPopupMenu", name); }
 
 TEST_F(PopupParents, FirstPopupMenuAmongTheChildrenIsFound) {
   Widg* menu = Popup("menu");

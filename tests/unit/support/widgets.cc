@@ -30,6 +30,9 @@ Widg* Siblings(std::initializer_list<Widg*> widgets) {
   return first;
 }
 
+Widg* Leaf(const char* name) { return NewWidg("XmLabel", name); }
+Widg* Popup(const char* name) { return NewWidg("XmPopupMenu", name); }
+
 Widg* TopLevel(std::initializer_list<Widg*> widgets) {
   LinkTopLevel(top_widget ? &LastSibling(top_widget)->next : &top_widget, Siblings(widgets));
   return top_widget;

@@ -20,6 +20,10 @@ Widg* NewWidg(const char* class_name, std::string_view name,
 // Links widgets that are in no list yet as siblings; returns the first.
 Widg* Siblings(std::initializer_list<Widg*> widgets);
 
+// A label, and a popup menu, of that GIL name.
+Widg* Leaf(const char* name);
+Widg* Popup(const char* name);
+
 // Appends widgets that are in no list yet to the top level; returns its first widget.
 Widg* TopLevel(std::initializer_list<Widg*> widgets);
 

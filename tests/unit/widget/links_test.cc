@@ -15,8 +15,6 @@ namespace {
 
 using WidgLinks = SessionFixture;
 
-Widg* Leaf(const char* name) { return NewWidg("XmLabel", name); }
-
 TEST_F(WidgLinks, FirstChildOfAParentWithoutOne) {
   Widg* parent = NewWidg("XmForm", "p");
   AddChildWidg(parent, Leaf("a"));

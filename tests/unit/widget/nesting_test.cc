@@ -13,8 +13,6 @@ namespace {
 
 using WidgNesting = SessionFixture;
 
-Widg* Leaf(const char* name) { return NewWidg("XmLabel", name); }
-
 TEST_F(WidgNesting, SubHierarchyTakesTheFirstChildOut) {
   Widg* child = With(Leaf("a"), {{"XmNwidth", "9"}, {"XmNx", "1"}, {"XmNy", "2"}});
   Widg* parent = NewWidg("XmForm", "p", {child, Leaf("b")});

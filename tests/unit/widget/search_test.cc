@@ -21,8 +21,6 @@ class WidgSearch : public SessionFixture {
   ~WidgSearch() override { CheckSearches(false); }
 };
 
-Widg* Leaf(const char* name) { return NewWidg("XmLabel", name); }
-
 TEST_F(WidgSearch, LaterTopLevelWidgetWinsOverAChildOfTheFirst) {
   Widg* wanted = Leaf("item");
   Widg* tree = TopLevel({NewWidg("TopLevelShell", "shell", {Leaf("item")}), wanted});

@@ -19,8 +19,6 @@ constexpr WalkOrder kSelfFirst = {WalkStep::kSelf, WalkStep::kNext, WalkStep::kC
 constexpr WalkOrder kSelfLast = {WalkStep::kNext, WalkStep::kChild, WalkStep::kSelf};
 constexpr WalkOrder kChildrenFirst = {WalkStep::kChild, WalkStep::kSelf, WalkStep::kNext};
 
-Widg* Leaf(const char* name) { return NewWidg("XmLabel", name); }
-
 bool Always(const Widg*) { return true; }
 
 // The GIL names of the widgets in the order in which they are handled.
