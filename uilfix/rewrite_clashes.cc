@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+// The compiler knows one thing by each name, whether widget or procedure.
 #include <unordered_set>
 
 #include "uilfix/renamer.h"

@@ -1,4 +1,7 @@
-#include <memory>
+// SPDX-License-Identifier: MIT
+// Two widgets of one name: the compiler refuses the second.
+#include <string>
+#include <string_view>
 #include <unordered_set>
 
 #include "uilfix/renamer.h"
@@ -7,7 +10,8 @@
 namespace uilfix {
 
 void FixDuplicates(Module& module, Report& report) {
-  std::unordered_set<std::string> seen;
+  std::unordered_set<std::string_view> seen;  // the first of a name keeps it
+  seen.reserve(module.items.size());
   Renamer renamer(module);
   ForEachObject(module, [&](Object& object) {
     if (object.IsComment() || seen.insert(object.name).second) return;

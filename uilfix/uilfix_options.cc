@@ -65,6 +65,8 @@ Options ParseOptions(const std::vector<std::string_view>& arguments) {
     } else if (argument == "-o" || argument == "--output") {
       if (++i == arguments.size()) return UsageError(std::string(argument) + " needs a file name");
       options.output = arguments[i];
+    } else if (argument.starts_with("--output=")) {
+      options.output = argument.substr(9);
     } else if (argument.starts_with("--only=")) {
       for (const Rewrite& rewrite : Rewrites()) SwitchOff(rewrite.name, options.selection);
       const std::string unknown = ForEachName(

@@ -48,6 +48,7 @@ std::vector<const Object*> Look(const Map& map, const std::string& key) {
 }  // namespace
 
 WidgetFinder::WidgetFinder(const Module& module) : module_(module) {
+  named_.reserve(module.items.size());
   ForEachObject(module, [&](const Object& object) {
     const Object*& known = named_[object.name];
     if (!known || (known->IsComment() && !object.IsComment())) known = &object;

@@ -50,6 +50,28 @@ TEST(Module, TakesDeclarationsAndObjects) {
   EXPECT_EQ(FindArgument(button, "XmNy"), nullptr);
 }
 
+// The lines between two entries are one text, but for the head of the arguments and the object's
+// end.
+TEST(Module, JoinsSectionLines) {
+  Module module = ParseModule(
+      "object\na:XmLabel{\n\tcontrols {\n\t\t};\n\targuments {\n\t\t};\n\tcallbacks {\n\t\t};\n\n"
+      "\t};\n\nend module;\n");
+  auto& object = std::get<Object>(module.items.front());
+  std::vector<std::string> texts;
+  std::vector<Mark> marks;
+  for (const Entry& entry : object.entries) {
+    texts.push_back(std::get<Verbatim>(entry).text);
+    marks.push_back(std::get<Verbatim>(entry).mark);
+  }
+  EXPECT_EQ(texts, (std::vector<std::string>{"\tcontrols {\n\t\t};\n\targuments {\n",
+                                             "\t\t};\n\tcallbacks {\n\t\t};\n\n", "\t};\n"}));
+  EXPECT_EQ(marks, (std::vector<Mark>{Mark::kArguments, Mark::kEnd, Mark::kObjectEnd}));
+  ASSERT_TRUE(AddArgument(object, "XmNx", "1"));
+  EXPECT_EQ(RenderModule(module),
+            "object\na:XmLabel{\n\tcontrols {\n\t\t};\n\targuments {\n\t\tXmNx = 1;\n\t\t};\n"
+            "\tcallbacks {\n\t\t};\n\n\t};\n\nend module;\n");
+}
+
 TEST(Module, TakesListsOfCalls) {
   const auto callback = Only<Callback>(ObjectAt(ParseModule(kModule), 0));
   EXPECT_TRUE(callback.list);

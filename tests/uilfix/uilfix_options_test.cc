@@ -28,6 +28,8 @@ TEST(Options, TakesFilesAndSwitches) {
   EXPECT_EQ(options.selection.off, (std::set<std::string, std::less<>>{"lines", "names"}));
   EXPECT_EQ(ParseOptions({"--", "-odd"}).input, "-odd");
   EXPECT_EQ(ParseOptions({"-"}).input, "-");
+  EXPECT_EQ(ParseOptions({"--output", "a.uil"}).output, "a.uil");
+  EXPECT_EQ(ParseOptions({"--output=b.uil"}).output, "b.uil");
 }
 
 TEST(Options, OnlySwitchesTheOthersOff) {
