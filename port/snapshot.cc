@@ -54,9 +54,9 @@ PortObject CopyObject(const Obj& obj, int file) {
   return copy;
 }
 
-std::vector<std::string> Texts(const Value* list) {
+std::vector<std::string> Texts(const Value* first) {
   std::vector<std::string> texts;
-  for (const Value* value = list; value; value = value->next) {
+  for (const Value* value = first; value; value = value->next) {
     texts.push_back(CopyValue(*value).text);
   }
   return texts;
