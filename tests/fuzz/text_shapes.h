@@ -14,18 +14,18 @@ struct Shape {
   std::string text;
 };
 
-// C: its tokens, one a line. Strings, characters and numbers are only told as such; calls of exit and
-// puts with a constant, one or more, are "known calls".
-// An error: a comment or string that is not closed, a comment that seems to begin twice, a trigraph,
-// joined lines, a byte that is not ASCII outside of comments, "#if 0" that does not end.
+// C: its tokens, one a line. Strings, characters and numbers are only told as such; calls of exit
+// and puts with a constant, one or more, are "known calls". An error: a comment or string that is
+// not closed, a comment that seems to begin twice, a trigraph, joined lines, a byte that is not
+// ASCII outside of comments, "#if 0" that does not end.
 Shape ShapeOfC(std::string_view text);
 
 // HTML or SVG: its tags with the names of their attributes. An error: a tag that is not closed or
 // nested wrongly, an attribute without quotes, a "<" or "&" that begins nothing, a control byte.
 Shape ShapeOfPage(std::string_view text);
 
-// A makefile: for each line what make sees of it, and of a recipe the number of its words. An error:
-// a quote that is not closed.
+// A makefile: for each line what make sees of it, and of a recipe the number of its words. An
+// error: a quote that is not closed.
 Shape ShapeOfMakefile(std::string_view text);
 
 // A resource file: for each line "comment" or the resource that it sets. An error: a line that is
