@@ -68,8 +68,9 @@ fuzz: setup-fuzz ## a minute of fuzzing, all targets
 mutants: setup-tests ## change the program in 300 places, one at a time, and list what no test notices (half an hour)
 	scripts/mutants
 
-gallery: setup-tests build ## take the pictures of docs/gallery.md anew
+gallery: setup-tests build ## take the pictures of docs/gallery.md and README.md anew
 	@scripts/gallery build/release
+	@scripts/report-picture build/release
 
 stress: setup-tests build ## the tests that take long
 	ctest --test-dir build/release -L stress --output-on-failure

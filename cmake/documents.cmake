@@ -19,7 +19,7 @@ endforeach()
 
 install(FILES CHANGELOG.md LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(FILES docs/batch.md docs/before.svg docs/compiling.md docs/gallery.md docs/mapping.md
-  docs/troubleshooting.md DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs)
+  docs/report.png docs/troubleshooting.md DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs)
 install(DIRECTORY docs/gallery DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs)
 install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(FILES integration/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR}/integration)

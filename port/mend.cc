@@ -112,7 +112,7 @@ Widg* ContainerOfMembers(const Session& session, const PortObject& group) {
 // continues with the other windows, the group ends up behind those: a widget that nobody controls.
 void BringBackGroup(Session& session, int index) {
   const PortObject& object = session.model.objects[index];
-  std::vector<Widg*> candidates = session.widgets;
+  std::vector<Widg*> candidates = WidgetsOf(session, index);
   for (Widg* list : session.cut_off) {
     for (Widg* widg = list; widg; widg = widg->next) candidates.push_back(widg);
   }

@@ -102,6 +102,7 @@ void Forget(Session& session, const std::unordered_set<const Widg*>& removed) {
   std::erase_if(session.widgets, [&](const Widg* widg) {
     return removed.contains(widg) && !in_tree.contains(widg);
   });
+  IndexWidgets(session);
 }
 
 // The menus that an object became: the first is the original of the others.

@@ -104,8 +104,8 @@ const char* SelectionCallback(const Widg* list) {
 
 std::vector<Widg*> ItemWidgets(const Session& session, int object, const std::string& label) {
   std::vector<Widg*> items;
-  for (Widg* widg : session.widgets) {
-    if (session.object_of.at(widg) != object || !IsItem(widg) || !IsInModule(widg)) continue;
+  for (Widg* widg : WidgetsOf(session, object)) {
+    if (!IsItem(widg) || !IsInModule(widg)) continue;
     const std::string text = GilText(GetResourceValue(widg, "XmNlabelString"));
     const std::string glyph = GilText(GetResourceValue(widg, "XmNoriginalPixmapName"));
     if (label.empty() || text == label || glyph == label) items.push_back(widg);

@@ -193,17 +193,26 @@ std::string NameOf(const Session& session, const Widg* widg) {
   return found == session.names.end() ? widg->name : found->second;
 }
 
+void IndexWidgets(Session& session) {
+  session.widgets_of.clear();
+  for (Widg* widg : session.widgets) session.widgets_of[session.object_of.at(widg)].push_back(widg);
+}
+
+const std::vector<Widg*>& WidgetsOf(const Session& session, int object) {
+  static const std::vector<Widg*> none;
+  const auto found = session.widgets_of.find(object);
+  return found == session.widgets_of.end() ? none : found->second;
+}
+
 void LinkWidgets(Session& session, int first_object) {
   Linker(session, first_object).Link(CollectNew(session));
+  IndexWidgets(session);
 }
 
 std::vector<Widg*> OwnWidgets(const Session& session, int object) {
   std::vector<Widg*> own;
-  for (Widg* widg : session.widgets) {
-    const auto found = session.object_of.find(widg);
-    if (found->second == object && widg->actions == session.objs[object]->actions) {
-      own.push_back(widg);
-    }
+  for (Widg* widg : WidgetsOf(session, object)) {
+    if (widg->actions == session.objs[object]->actions) own.push_back(widg);
   }
   std::sort(own.begin(), own.end(),
             [&](const Widg* a, const Widg* b) { return session.made.at(a) < session.made.at(b); });
@@ -211,16 +220,12 @@ std::vector<Widg*> OwnWidgets(const Session& session, int object) {
 }
 
 void SettleObjects(Session& session) {
-  std::unordered_map<int, std::vector<Widg*>> widgets_of;
-  for (Widg* widg : session.widgets) {
-    if (IsInModule(widg) && IsInWindow(session, widg)) {
-      widgets_of[session.object_of[widg]].push_back(widg);
-    }
-  }
   Model& model = session.model;
   for (std::size_t i = 0; i < model.objects.size(); ++i) {
     PortObject& object = model.objects[i];
-    std::vector<Widg*>& widgets = widgets_of[static_cast<int>(i)];
+    std::vector<Widg*> widgets = WidgetsOf(session, static_cast<int>(i));
+    std::erase_if(
+        widgets, [&](const Widg* widg) { return !IsInModule(widg) || !IsInWindow(session, widg); });
     const auto stands_for_it = [&](const Widg* widg) {
       return widg->actions == session.objs[i]->actions;
     };

@@ -3,120 +3,73 @@
 
 #include <algorithm>
 
+#include "options/converter_options.h"
+#include "options/read_options.h"
+
 namespace port {
 namespace {
 
-// The converter's options, which go to it as they are.
-constexpr std::string_view kConverterOptions[] = {
-    "-motif",          "-openlook",     "-reposition",    "-noreposition",   "-converticons",
-    "-noconverticons", "-ignoregroups", "-convertgroups", "-motif11",        "-motif12",
-    "-mapall",         "-nomapall",     "-nogrouplabels", "-group_labels",   "-dont_rename",
-    "-zo25",           "-zo30",         "-nozo",          "-genzocallbacks", "-nocomments",
-    "-verbose",        "-quiet"};
-
-bool IsConverterOption(std::string_view argument) {
-  return (argument.starts_with("-D") && argument.size() > 2) ||
-         std::find(std::begin(kConverterOptions), std::end(kConverterOptions), argument) !=
-             std::end(kConverterOptions);
+std::string TakeJobs(const std::string& text, int& jobs) {
+  const bool number = text.size() < 5 && std::all_of(text.begin(), text.end(),
+                                                     [](char c) { return c >= '0' && c <= '9'; });
+  jobs = number ? std::stoi(text) : 0;
+  return jobs < 1 ? "-j needs a number from 1 on, not " + text : "";
 }
 
-class Parser {
- public:
-  explicit Parser(const std::vector<std::string_view>& arguments) : arguments_(arguments) {}
-
-  Options Parse() {
-    for (; at_ < arguments_.size() && options_.error.empty(); ++at_) Take(arguments_[at_]);
-    const bool informs =
-        options_.action == Options::Action::kHelp || options_.action == Options::Action::kVersion;
-    if (options_.error.empty() && !informs) CheckWhole();
-    if (!options_.error.empty()) options_.action = Options::Action::kUsageError;
-    return options_;
+std::vector<options::Option> TableFor(Options& given) {
+  using Action = Options::Action;
+  const auto inform = [&given](Action action) {
+    return [&given, action](const std::string&) {
+      given.action = action;
+      return std::string();
+    };
+  };
+  const auto take_tree = [&given](const std::string&) {
+    if (given.action == Action::kPort) given.action = Action::kTree;
+    return std::string();
+  };
+  const auto take_jobs = [&given](const std::string& text) { return TakeJobs(text, given.jobs); };
+  std::vector<options::Option> table = {
+      {"help", 'h', options::Value::kNone, inform(Action::kHelp)},
+      {"version", 0, options::Value::kNone, inform(Action::kVersion)},
+      {"recursive", 'r', options::Value::kNone, take_tree},
+      {"jobs", 'j', options::Value::kNeeded, take_jobs},
+      options::Text("output", 'o', given.output),
+      options::Text("templates", 0, given.templates),
+      options::Flag("no-pictures", 0, given.pictures, false),
+      options::Flag("", 'q', given.quiet),
+  };
+  options::AddConverterOptions(table, given.converter_options);
+  for (const std::string name : {"verbose", "quiet"}) {
+    table.push_back({name, 0, options::Value::kNone, [&given, name](const std::string&) {
+                       given.converter_options.push_back("-" + name);
+                       return std::string();
+                     }});
   }
+  return table;
+}
 
- private:
-  void CheckWhole() {
-    if (options_.input.empty()) options_.error = "no file to port";
-    if (options_.action == Options::Action::kTree && options_.output.empty()) {
-      options_.error = "-r needs a folder: -o FOLDER";
-    }
-  }
-
-  void Take(std::string_view argument) {
-    if (operands_only_ || !argument.starts_with('-') || argument == "-") {
-      TakeOperand(argument);
-    } else if (argument == "--") {
-      operands_only_ = true;
-    } else if (argument == "--help" || argument == "-h") {
-      options_.action = Options::Action::kHelp;
-    } else if (argument == "--version") {
-      options_.action = Options::Action::kVersion;
-    } else if (argument == "-r" || argument == "--recursive") {
-      if (options_.action == Options::Action::kPort) options_.action = Options::Action::kTree;
-    } else if (argument == "--no-pictures") {
-      options_.pictures = false;
-    } else if (argument == "-q") {
-      options_.quiet = true;
-    } else if (TakeText(argument, "-o", "--output", options_.output) ||
-               TakeText(argument, "", "--templates", options_.templates) || TakeJobs(argument)) {
-      return;
-    } else if (IsConverterOption(argument)) {
-      options_.converter_options.emplace_back(argument);
-    } else {
-      options_.error = "unknown option " + std::string(argument);
-    }
-  }
-
-  void TakeOperand(std::string_view argument) {
-    if (!options_.input.empty()) {
-      options_.error = "more than one file: " + std::string(argument);
-    }
-    options_.input = argument;
-  }
-
-  // The option in its forms "-o TEXT", "--output TEXT" and "--output=TEXT".
-  bool TakeText(std::string_view argument, std::string_view brief, std::string_view full,
-                std::string& text) {
-    if (argument.starts_with(full) && argument.size() > full.size() &&
-        argument[full.size()] == '=') {
-      text = argument.substr(full.size() + 1);
-    } else if (argument != full && (brief.empty() || argument != brief)) {
-      return false;
-    } else if (at_ + 1 < arguments_.size()) {
-      text = arguments_[++at_];
-    } else {
-      text.clear();
-    }
-    if (text.empty()) options_.error = std::string(argument) + " needs a value";
-    return true;
-  }
-
-  bool TakeJobs(std::string_view argument) {
-    std::string text;
-    if (argument.starts_with("-j") && argument.size() > 2) {
-      text = argument.substr(2);
-    } else if (!TakeText(argument, "-j", "--jobs", text)) {
-      return false;
-    }
-    const bool number =
-        !text.empty() && text.size() < 5 &&
-        std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
-    options_.jobs = number ? std::stoi(text) : 0;
-    if (options_.jobs < 1 && options_.error.empty()) {
-      options_.error = "-j needs a number from 1 on, not " + text;
-    }
-    return true;
-  }
-
-  const std::vector<std::string_view>& arguments_;
-  std::size_t at_ = 0;
-  bool operands_only_ = false;
-  Options options_;
-};
+// What is missing in the whole.
+std::string Missing(const Options& given) {
+  if (given.action == Options::Action::kHelp || given.action == Options::Action::kVersion)
+    return "";
+  if (given.input.empty()) return "no file to port";
+  const bool tree = given.action == Options::Action::kTree;
+  return tree && given.output.empty() ? "-r needs a folder: -o FOLDER" : "";
+}
 
 }  // namespace
 
 Options ParseOptions(const std::vector<std::string_view>& arguments) {
-  return Parser(arguments).Parse();
+  Options given;
+  given.error = options::ReadOptions(arguments, TableFor(given), [&](const std::string& operand) {
+    if (!given.input.empty()) return "more than one file: " + operand;
+    given.input = operand;
+    return std::string();
+  });
+  if (given.error.empty()) given.error = Missing(given);
+  if (!given.error.empty()) given.action = Options::Action::kUsageError;
+  return given;
 }
 
 std::string HelpText() {

@@ -44,13 +44,20 @@ struct Session {
   std::set<const Callback*> left_out;  // of the module, since connections.c makes the call
   std::vector<std::string> reasons;    // beside model.connections: why one is lost, so far
   std::vector<Widg*> widgets;          // all of the tree, parents first
-  std::unordered_map<const Widg*, int> object_of;    // for each of them; -1 for none
-  std::unordered_map<const Widg*, Widg*> parent_of;  // null at the top
-  std::unordered_map<const Widg*, NameHandle> made;  // rises with each widget made
+  std::unordered_map<const Widg*, int> object_of;          // for each of them; -1 for none
+  std::unordered_map<int, std::vector<Widg*>> widgets_of;  // the other way round: IndexWidgets()
+  std::unordered_map<const Widg*, Widg*> parent_of;        // null at the top
+  std::unordered_map<const Widg*, NameHandle> made;        // rises with each widget made
   std::vector<Widg*> cut_off;  // lists that a window took the place of at the top level
   std::vector<Widg*> written;  // beside the objects of the module
   std::unordered_map<const Widg*, std::string> names;  // in the module as mended
 };
+
+// Sorts the session's widgets by object. To be called when the list or an object has changed.
+void IndexWidgets(Session& session);
+
+// The widgets that go with an object, in the order of the session's list.
+const std::vector<Widg*>& WidgetsOf(const Session& session, int object);
 
 // For each new widget of the tree since the last call, notes the object that it was made for.
 void LinkWidgets(Session& session, int first_object);

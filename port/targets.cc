@@ -61,8 +61,8 @@ std::string Quoted(const std::string& text) {
 
 // The label that stands beside a control or over a list, else the widget itself.
 const Widg* LabelWidget(const Session& session, int object, const Widg* widg) {
-  for (const Widg* companion : session.widgets) {
-    if (session.object_of.at(companion) != object || !IsClass(companion, "XmLabel")) continue;
+  for (const Widg* companion : WidgetsOf(session, object)) {
+    if (!IsClass(companion, "XmLabel")) continue;
     if (companion != widg && IsInModule(companion)) return companion;
   }
   return widg;
@@ -86,11 +86,8 @@ const Widg* TargetWidget(const Session& session, const Connection& connection) {
     return IsClass(widg, "XmDialogShell") ? widg->child : widg;
   }
   // A stack setting has no widget of its own.
-  for (const Widg* widg : session.widgets) {
-    if (session.object_of.at(widg) == connection.to_object && IsClass(widg, "XmOptionMenu") &&
-        IsInModule(widg)) {
-      return widg;
-    }
+  for (const Widg* widg : WidgetsOf(session, connection.to_object)) {
+    if (IsClass(widg, "XmOptionMenu") && IsInModule(widg)) return widg;
   }
   return nullptr;
 }

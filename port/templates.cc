@@ -39,7 +39,9 @@ std::string Templates::Plain(const std::string& name) const { return Read(name);
 
 std::string Templates::Fill(const std::string& name, const Data& data,
                             std::string (*escape)(const std::string& text)) const {
-  kainjow::mustache::mustache filled(Read(name + ".mustache"));
+  auto known = parsed_.find(name);
+  if (known == parsed_.end()) known = parsed_.emplace(name, Read(name + ".mustache")).first;
+  kainjow::mustache::mustache& filled = known->second;
   if (!filled.is_valid()) {
     throw TemplateError{"template " + name + ": " + filled.error_message()};
   }

@@ -8,6 +8,7 @@
 
 #include <filesystem>
 #include <kainjow/mustache.hpp>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -36,6 +37,8 @@ class Templates {
   std::string Read(const std::string& name) const;
 
   std::vector<std::filesystem::path> folders_;
+  // One template may be filled for each of hundreds of functions.
+  mutable std::map<std::string, kainjow::mustache::mustache> parsed_;
 };
 
 }  // namespace port

@@ -1,153 +1,114 @@
 // SPDX-License-Identifier: MIT
 #include "view_options.h"
 
-#include <algorithm>
-
+#include "options/converter_options.h"
+#include "options/read_options.h"
 #include "uilfix/rewrites.h"
 
 namespace view {
 namespace {
 
-// The converter's options, which go to it as they are. -verbose and -quiet are not among them: what
-// it tells is shown or not by this program's own --verbose.
-constexpr std::string_view kConverterOptions[] = {
-    "-motif",          "-openlook",     "-reposition",    "-noreposition",   "-converticons",
-    "-noconverticons", "-ignoregroups", "-convertgroups", "-motif11",        "-motif12",
-    "-mapall",         "-nomapall",     "-nogrouplabels", "-group_labels",   "-dont_rename",
-    "-zo25",           "-zo30",         "-nozo",          "-genzocallbacks", "-nocomments",
-};
-
 struct ToolkitOption {
-  std::string_view name;
+  const char* name;
   bool value;  // whether an argument follows
 };
 
 constexpr ToolkitOption kToolkitOptions[] = {
-    {"-display", true},      {"-geometry", true},   {"-xrm", true},
-    {"-name", true},         {"-title", true},      {"-fn", true},
-    {"-font", true},         {"-bg", true},         {"-background", true},
-    {"-fg", true},           {"-foreground", true}, {"-bd", true},
-    {"-bordercolor", true},  {"-bw", true},         {"-borderwidth", true},
-    {"-xnllanguage", true},  {"-rv", false},        {"-reverse", false},
-    {"+rv", false},          {"-iconic", false},    {"-synchronous", false},
-    {"+synchronous", false},
+    {"display", true},     {"geometry", true}, {"xrm", true},         {"name", true},
+    {"title", true},       {"fn", true},       {"font", true},        {"bg", true},
+    {"background", true},  {"fg", true},       {"foreground", true},  {"bd", true},
+    {"bordercolor", true}, {"bw", true},       {"borderwidth", true}, {"xnllanguage", true},
+    {"rv", false},         {"reverse", false}, {"iconic", false},     {"synchronous", false},
 };
 
-const ToolkitOption* FindToolkitOption(std::string_view argument) {
-  const auto found = std::find_if(std::begin(kToolkitOptions), std::end(kToolkitOptions),
-                                  [&](const ToolkitOption& row) { return row.name == argument; });
-  return found == std::end(kToolkitOptions) ? nullptr : found;
+using options::Value;
+
+void AddToolkitOptions(std::vector<options::Option>& table, Options& given) {
+  for (const ToolkitOption& option : kToolkitOptions) {
+    const auto take = [&given, option](const std::string& value) {
+      given.toolkit_options.push_back(std::string("-") + option.name);
+      if (option.value) given.toolkit_options.push_back(value);
+      return std::string();
+    };
+    table.push_back({option.name, 0, option.value ? Value::kNeeded : Value::kNone, take});
+  }
 }
 
-bool IsConverterOption(std::string_view argument) {
-  return argument.starts_with("-D") ||
-         std::find(std::begin(kConverterOptions), std::end(kConverterOptions), argument) !=
-             std::end(kConverterOptions);
+std::vector<options::Option> TableFor(Options& given) {
+  using Action = Options::Action;
+  const auto inform = [&given](Action action) {
+    return [&given, action](const std::string&) {
+      given.action = action;
+      return std::string();
+    };
+  };
+  const auto take_check = [&given](const std::string& form) {
+    given.check = form.empty() ? Options::Check::kSentences : Options::Check::kTabs;
+    return form.empty() || form == "tab" ? "" : "unknown option: --check=" + form;
+  };
+  const auto take_resources = [&given](const std::string& file) {
+    given.resource_files.push_back(file);
+    return std::string();
+  };
+  std::vector<options::Option> table = {
+      {"help", 'h', Value::kNone, inform(Action::kHelp)},
+      {"version", 0, Value::kNone, inform(Action::kVersion)},
+      {"check", 0, Value::kOptional, take_check},
+      {"resources", 0, Value::kNeeded, take_resources},
+      options::Text("output", 'o', given.picture),
+      options::Text("screenshot", 0, given.picture_folder),
+      options::Flag("list", 0, given.list),
+      options::Flag("all", 0, given.all),
+      options::Flag("watch", 0, given.watch),
+      options::Flag("compact", 0, given.compact),
+      options::Flag("verbose", 'v', given.verbose),
+      options::Flag("no-fix", 0, given.fix, false),
+  };
+  for (const uilfix::Rewrite& rewrite : uilfix::Rewrites()) {
+    const std::string name(rewrite.name);
+    table.push_back({"no-" + name, 0, Value::kNone, [&given, name](const std::string&) {
+                       given.off.insert(name);
+                       return std::string();
+                     }});
+  }
+  AddToolkitOptions(table, given);
+  options::AddConverterOptions(table, given.converter_options);
+  return table;
 }
 
-class Parser {
- public:
-  explicit Parser(const std::vector<std::string_view>& arguments) : arguments_(arguments) {}
-
-  Options Parse() {
-    for (at_ = 0; at_ < arguments_.size() && options_.error.empty(); ++at_) {
-      TakeArgument(arguments_[at_]);
-    }
-    if (!options_.error.empty()) {
-      options_.action = Options::Action::kUsageError;
-    } else if (options_.file.empty() && NeedsFile()) {
-      options_.error = "no file to show";
-      options_.action = Options::Action::kUsageError;
-    } else if (options_.watch && options_.IsBatch()) {
-      options_.error = "--watch is for windows that stay";
-      options_.action = Options::Action::kUsageError;
-    }
-    return options_;
+// The toolkit has two options with a plus, which look like operands.
+std::string TakeOperand(const std::string& operand, Options& given) {
+  if (operand == "+rv" || operand == "+synchronous") {
+    given.toolkit_options.push_back(operand);
+  } else if (!given.file.empty()) {
+    return "more than one file: " + operand;
+  } else {
+    given.file = operand;
   }
+  return "";
+}
 
- private:
-  bool NeedsFile() const {
-    return options_.action != Options::Action::kHelp &&
-           options_.action != Options::Action::kVersion;
-  }
-
-  void TakeArgument(std::string_view argument) {
-    if (operands_only_ ||
-        !(argument.starts_with('-') || argument == "+rv" || argument == "+synchronous")) {
-      TakeFile(argument);
-    } else if (argument == "--") {
-      operands_only_ = true;
-    } else if (argument == "--help" || argument == "-h") {
-      options_.action = Options::Action::kHelp;
-    } else if (argument == "--version") {
-      options_.action = Options::Action::kVersion;
-    } else if (argument == "--list") {
-      options_.list = true;
-    } else if (argument == "--check") {
-      options_.check = Options::Check::kSentences;
-    } else if (argument == "--check=tab") {
-      options_.check = Options::Check::kTabs;
-    } else if (argument == "--all") {
-      options_.all = true;
-    } else if (argument == "--watch") {
-      options_.watch = true;
-    } else if (argument == "--compact") {
-      options_.compact = true;
-    } else if (argument == "--resources") {
-      options_.resource_files.push_back(TakeValue());
-    } else if (argument == "--verbose" || argument == "-v") {
-      options_.verbose = true;
-    } else if (argument == "-o" || argument == "--output") {
-      options_.picture = TakeValue();
-    } else if (argument == "--screenshot") {
-      options_.picture_folder = TakeValue();
-    } else if (argument == "--no-fix") {
-      options_.fix = false;
-    } else if (argument.starts_with("--no-")) {
-      TakeSwitch(argument.substr(5));
-    } else if (const ToolkitOption* option = FindToolkitOption(argument)) {
-      options_.toolkit_options.emplace_back(argument);
-      if (option->value) options_.toolkit_options.push_back(TakeValue());
-    } else if (IsConverterOption(argument)) {
-      options_.converter_options.emplace_back(argument);
-    } else {
-      options_.error = "unknown option: " + std::string(argument);
-    }
-  }
-
-  void TakeFile(std::string_view argument) {
-    if (!options_.file.empty()) {
-      options_.error = "more than one file: " + std::string(argument);
-    } else {
-      options_.file = argument;
-    }
-  }
-
-  void TakeSwitch(std::string_view name) {
-    if (!uilfix::FindRewrite(name)) {
-      options_.error = "no such rewrite: " + std::string(name);
-    } else {
-      options_.off.emplace(name);
-    }
-  }
-
-  std::string TakeValue() {
-    const std::string_view option = arguments_[at_];
-    if (++at_ < arguments_.size() && !arguments_[at_].empty()) return std::string(arguments_[at_]);
-    options_.error = std::string(option) + " needs a value";
-    return "";
-  }
-
-  const std::vector<std::string_view>& arguments_;
-  std::size_t at_ = 0;
-  bool operands_only_ = false;
-  Options options_;
-};
+// What is wrong with the whole.
+std::string Mistake(const Options& given) {
+  const bool informs =
+      given.action == Options::Action::kHelp || given.action == Options::Action::kVersion;
+  if (given.file.empty() && !informs) return "no file to show";
+  return given.watch && given.IsBatch() ? "--watch is for windows that stay" : "";
+}
 
 }  // namespace
 
 Options ParseOptions(const std::vector<std::string_view>& arguments) {
-  return Parser(arguments).Parse();
+  Options given;
+  given.error = options::ReadOptions(arguments, TableFor(given), [&](const std::string& operand) {
+    return TakeOperand(operand, given);
+  });
+  if (given.error.starts_with("unknown option: --no-")) {
+    given.error = "no such rewrite: " + given.error.substr(21);
+  }
+  if (given.error.empty()) given.error = Mistake(given);
+  if (!given.error.empty()) given.action = Options::Action::kUsageError;
+  return given;
 }
 
 std::string HelpText() {

@@ -3,7 +3,7 @@
 """Runs the commands of README.md and docs/batch.md as they are written, with the programs of a build.
 
 Of README.md the ```sh blocks, but for those that call make, which would build and test once more
-(scripts/fresh-root-check runs them too). Of docs/batch.md the local recipes for xargs and GNU parallel.
+(scripts/fresh-root-check runs them too). Of docs/batch.md the local recipes for xargs and GNU parallel, and those for whole programs.
 
 usage: run_recipes.py --bin DIR [--bin DIR ...]
 """
@@ -68,6 +68,28 @@ def main():
             if done.stdout or {path for path in wanted if not path.exists() or not path.stat().st_size}:
                 failures += 1
                 print(f"docs/batch.md {heading}: {done.stdout}{done.stderr}")
+    # Programs: all blocks of the section, the names of folders and of the array's list made this test's.
+    section = page.split("\n## Programs: pandrel-port -r\n")[1].split("\n## ")[0]
+    tree, find, task = re.findall(r"(?:^    .*\n)+", section, re.M)
+    with tempfile.TemporaryDirectory() as folder:
+        work = pathlib.Path(folder)
+        shutil.copytree(ROOT / "examples", work / "a tree")
+        (work / "files").write_text("a tree/hello.G\n")
+        places = {"~/interfaces": "'a tree'", "/tmp/programs": "of-tree", "-r ": "-r --no-pictures "}
+        for old, new in places.items():
+            tree = tree.replace(old, new)
+        run("docs/batch.md pandrel-port -r", tree, work)
+        run("docs/batch.md job array", "SLURM_ARRAY_TASK_ID=1\n" + re.sub("^    ", "", task, flags=re.M), work)
+        wanted = ["of-tree/index.html", "of-tree/library/library/main.c", "of-tree/weather/main.c",
+                  "programs/a tree/hello/main.c"]
+        if shutil.which("parallel"):
+            (work / "programs").mkdir(exist_ok=True)
+            run("docs/batch.md pandrel-port with parallel", find, work / "a tree")
+            wanted.append("programs/library/library/main.c")
+        for result in wanted:
+            if not (work / result).exists():
+                failures += 1
+                print(f"docs/batch.md: {result} was not made")
     print(f"{failures} failures")
     sys.exit(1 if failures else 0)
 
