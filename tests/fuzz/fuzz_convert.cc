@@ -16,6 +16,7 @@
 #include "driver/driver.h"
 #include "fuzz_session.h"
 #include "gil_mutator.h"
+#include "passes/procedure_names.h"
 #include "uil/writer.h"
 #include "widget/search.h"
 #include "widget/tree.h"
@@ -52,6 +53,7 @@ void Convert() {
   ProcessGILFile(&top_widget);
   ProcessProject();
   ProcessActions();
+  FixProcedureNames();
   char* text = nullptr;
   std::size_t size = 0;
   std::FILE* output = open_memstream(&text, &size);

@@ -160,15 +160,6 @@ TEST_F(ObjectLabel, VerticalSliderIsAsHighAsItsSlider) {
   EXPECT_EQ(Resources(scale), "XmNx=10 XmNy=20 XmNheight=15 XmNwidth=20");
 }
 
-TEST_F(ObjectLabel, SliderWidthWithoutANumberIsZero) {
-  Widg* scale = Beside(SLIDER, {Str(LABEL, "A:"), Int(WIDTH, 200), Strs(SLIDER_WIDTH, {}),
-                                Tok(ORIENTATION, VERTICAL)});
-  EXPECT_EQ(Resources(scale), "XmNx=10 XmNy=20 XmNheight=0 XmNwidth=20");
-  scale = Beside(SLIDER, {Str(LABEL, "A:"), Int(WIDTH, 200), Strs(SLIDER_WIDTH, {}),
-                          Tok(ORIENTATION, HORIZONTAL)});
-  EXPECT_EQ(Resources(scale), "XmNx=10 XmNy=20 XmNwidth=0");
-}
-
 TEST_F(ObjectLabel, SliderWidthNeedsAnOrientationAndAWidth) {
   EXPECT_EQ(Resources(Beside(SLIDER, {Str(LABEL, "A:"), Int(WIDTH, 200), Int(SLIDER_WIDTH, 15)})),
             "XmNx=10 XmNy=20 XmNwidth=200");

@@ -3,11 +3,13 @@
 
 #include <fcntl.h>
 #include <stdlib.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include <cstdio>
 
 #include "flags/flags.h"
+#include "osi/fatal.h"
 #include "unit/support/session_fixture.h"
 
 using StandardStreamsTest = SessionFixture;
@@ -59,6 +61,20 @@ TEST_F(StandardStreamsDeathTest, ClosedStreamsAreHeldAndCannotBeUsed) {
         _exit(held && unusable ? 7 : 8);
       },
       testing::ExitedWithCode(7), "");
+}
+
+// Runs in a child whose standard input is closed and which can open no file.
+static void HoldWithoutFiles() {
+  OsiSetExitHandler(nullptr);
+  close(STDIN_FILENO);
+  const rlimit none = {0, 0};
+  setrlimit(RLIMIT_NOFILE, &none);
+  HoldStandardStreams();
+  _exit(7);
+}
+
+TEST_F(StandardStreamsDeathTest, RunEndsWhereAClosedStreamCannotBeHeld) {
+  EXPECT_EXIT(HoldWithoutFiles(), testing::ExitedWithCode(255), "");
 }
 
 TEST_F(StandardStreamsTest, TerminalIsTold) {

@@ -425,6 +425,17 @@ TEST_F(ScannerTest, TokensUpToTheLimitAreRead) {
   }
 }
 
+TEST_F(ScannerTest, LongestTokensAreReadWhereverTheBufferEnds) {
+  // The scanner holds 32 KB of the file: of some of these tokens only a byte or two are missing.
+  for (std::size_t held = 9990; held <= 10010; ++held) {
+    const std::string blanks = Repeat(std::size_t{32} * 1024 - held, ' ');
+    const std::string text = Repeat(10000, 'a');
+    EXPECT_EQ(Scan(blanks + text + " (").size(), 2U) << held;
+    EXPECT_EQ(Scan(blanks + Quoted(10000) + " (").size(), 2U) << held;
+    ExpectTooLong(blanks + text + "a");
+  }
+}
+
 TEST_F(ScannerTest, TokensOverTheLimitEndTheRun) {
   ExpectTooLong(Repeat(10001, 'a'));
   ExpectTooLong(Repeat(10001, '5'));

@@ -3,8 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <initializer_list>
+#include <iterator>
 #include <string>
 
 #include "layout/geometry.h"
@@ -126,14 +128,15 @@ TEST_F(LayoutTiling, InsertionFillsTheSlotsBehindWithTheFirst) {
 
 TEST_F(LayoutTiling, InsertingWritesNothingBehindTheLastWidget) {
   Widg* behind = Placed("z", 0, 0, 0, 0);
-  Widg* array[8] = {nullptr, nullptr, nullptr, nullptr, nullptr, behind, behind, behind};
+  Widg* array[16];
+  std::fill(std::begin(array), std::end(array), behind);
   int32_t count = 0;
   for (const int32_t x : {10, 20, 30, 40, 25}) {
     InsertByPosition(array, &count, Placed("a", x, 0, 0, 0), kPositionLeft);
   }
   EXPECT_EQ(count, 5);
   EXPECT_EQ(array[2]->x, 25);
-  for (int i = 5; i < 8; ++i) EXPECT_EQ(array[i], behind);
+  EXPECT_EQ(std::count(std::begin(array), std::end(array), behind), 11);
 }
 
 TEST_F(LayoutTiling, The129thWidgetIsDropped) {

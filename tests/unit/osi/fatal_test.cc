@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "osi/fatal.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <signal.h>
+#include <unistd.h>
 
 #include <cstdio>
+#include <new>
+#include <string>
 
 #include "unit/osi/surroundings.h"
 
@@ -46,6 +50,19 @@ TEST(OsiExitDeathTest, FlushesTheOpenStreams) {
       },
       testing::ExitedWithCode(3), "");
   EXPECT_EQ(ReadWhole(path), "kept");
+}
+
+TEST(OsiEndOnExhaustedMemoryDeathTest, WritesOneLineToTheLastByte) {
+  TempDir dir;
+  const std::string path = dir.Path("written");
+  EXPECT_EXIT(
+      {
+        dup2(open(path.c_str(), O_CREAT | O_WRONLY, 0600), STDERR_FILENO);
+        OsiEndOnExhaustedMemory();
+        std::get_new_handler()();
+      },
+      testing::ExitedWithCode(255), "");
+  EXPECT_EQ(ReadWhole(path), "Error: Out of memory\n");
 }
 
 TEST(OsiExit, GoesThroughTheHandler) {

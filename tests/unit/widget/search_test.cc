@@ -8,6 +8,7 @@
 
 #include "unit/support/session_fixture.h"
 #include "unit/support/widgets.h"
+#include "widget/known_names.h"
 #include "widget/links.h"
 #include "widget/nesting.h"
 #include "widget/tree.h"
@@ -190,6 +191,16 @@ TEST_F(WidgSearch, ItemOfADroppedMenuIsFoundWhereItIsLinkedNext) {
   AddChildWidg(window, NewWidg("XmForm", "other"));
   SetChildren(LastSibling(window->child), item);
   EXPECT_EQ(FindWidg(tree, "item"), item);
+}
+
+TEST_F(WidgSearch, WhatANewEndOfTheTopLevelReplacesIsNotFound) {
+  Widg* tree = TopLevel({Leaf("first"), Leaf("former")});
+  EXPECT_EQ(FindWidg(tree, "former"), tree->next);
+  EXPECT_TRUE(NamesAreKnown());  // else every search would go through the tree
+  Widg* other = Leaf("other");
+  LinkTopLevel(&tree->next, other);
+  EXPECT_EQ(FindWidg(tree, "former"), nullptr);
+  EXPECT_EQ(FindWidg(tree, "other"), other);
 }
 
 TEST_F(WidgSearch, IsChildLooksAtTheDirectChildrenOnly) {
