@@ -2,7 +2,6 @@
 #include "uil/writer.h"
 
 #include <cstddef>
-#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,8 +23,9 @@ void Flush() {
   text.clear();
 }
 
-void Put(std::initializer_list<std::string_view> parts) {
-  for (std::string_view part : parts) text += part;
+template <typename... Parts>
+void Put(const Parts&... parts) {
+  (text.append(parts), ...);
 }
 
 // A text that may be missing.
@@ -43,63 +43,63 @@ bool OmitShells() { return !usezo && nocomments; }
 void GenProcedures() {
   char** procedures = nullptr;
   const std::size_t count = GetProcedures(&procedures);
-  for (std::size_t i = 0; i < count; ++i) Put({"procedure ", procedures[i], ";\n"});
-  Put({"\n"});
+  for (std::size_t i = 0; i < count; ++i) Put("procedure ", Optional(procedures[i]), ";\n");
+  Put("\n");
 }
 
 void GenControls(const Widg* widg, std::string_view mark) {
-  Put({mark, "\tcontrols {\n"});
+  Put(mark, "\tcontrols {\n");
   for (const Widg* child = widg->child; child; child = child->next) {
     if (!IsWritten(child)) continue;
     const bool marked = mark.empty() && IsShell(child);
     if (marked && OmitShells()) continue;
-    Put({marked ? ShellMark() : mark, "\t\t", child->managed ? "" : "unmanaged ", child->class_name,
-         " ", child->name, ";\n"});
+    Put(marked ? ShellMark() : mark, "\t\t", child->managed ? "" : "unmanaged ", child->class_name,
+        " ", child->name, ";\n");
   }
-  Put({mark, "\t\t};\n"});
+  Put(mark, "\t\t};\n");
 }
 
 void GenArguments(const Widg* widg, std::string_view mark) {
-  Put({mark, "\targuments {\n"});
+  Put(mark, "\targuments {\n");
   for (const Resource* resource = widg->resources; resource; resource = resource->next) {
     // Motif has no such resource; it is how steps of the conversion pass on a glyph's file name.
     if (OsiStrcmp(resource->name, "XmNoriginalPixmapName") == 0) continue;
-    Put({mark, "\t\t", resource->name, " = ", Optional(resource->value), ";\n"});
+    Put(mark, "\t\t", resource->name, " = ", Optional(resource->value), ";\n");
   }
-  Put({mark, "\t\t};\n"});
+  Put(mark, "\t\t};\n");
 }
 
 // Puts several callbacks in one list under the name of the first, whatever their own: the builder
 // reads no second list.
 void GenProcedureList(const Callback* callbacks, std::string_view mark) {
-  Put({mark, "\t\t", callbacks->callback_name, " = procedures {\n"});
+  Put(mark, "\t\t", callbacks->callback_name, " = procedures {\n");
   for (const Callback* callback = callbacks; callback; callback = callback->next) {
-    Put({mark, "\t\t\t", callback->procedure, "(", Optional(callback->argument), ");\n"});
+    Put(mark, "\t\t\t", Optional(callback->procedure), "(", Optional(callback->argument), ");\n");
   }
-  Put({mark, "\t\t\t};\n", mark, "\n", mark, "};\n"});
+  Put(mark, "\t\t\t};\n", mark, "\n", mark, "};\n");
 }
 
 // Ends the object, too: where its closing brace stands depends on the callbacks.
 void GenCallbacks(const Widg* widg, std::string_view mark) {
-  Put({mark, "\tcallbacks {\n"});
+  Put(mark, "\tcallbacks {\n");
   const Callback* callbacks = widg->callbacks;
   if (!callbacks) {
-    Put({mark, "\t\t};\n\n", mark, "\t};\n\n"});
+    Put(mark, "\t\t};\n\n", mark, "\t};\n\n");
     return;
   }
   if (callbacks->next) {
     GenProcedureList(callbacks, mark);
   } else {
-    Put({mark, "\t\t", callbacks->callback_name, " = procedure ", callbacks->procedure, "(",
-         Optional(callbacks->argument), ");\n", mark, "\t\t};\n"});
+    Put(mark, "\t\t", callbacks->callback_name, " = procedure ", Optional(callbacks->procedure),
+        "(", Optional(callbacks->argument), ");\n", mark, "\t\t};\n");
   }
-  Put({mark, "};\n\n"});
+  Put(mark, "};\n\n");
 }
 
 void GenObject(const Widg* widg) {
   if (IsShell(widg) && OmitShells()) return;
   const std::string_view mark = IsShell(widg) ? ShellMark() : "";
-  Put({mark, "object\n", mark, widg->name, ":", widg->class_name, "{\n"});
+  Put(mark, "object\n", mark, widg->name, ":", widg->class_name, "{\n");
   GenControls(widg, mark);
   GenArguments(widg, mark);
   GenCallbacks(widg, mark);
@@ -136,12 +136,11 @@ void GenUILForWidg(Widg* widg) {
 
 void GenUILForWidgHierarchy(Widg* top, std::FILE* stream) {
   output = stream;
-  Put(
-      {"module Pandrel\n"
-       "names = case_sensitive\n"
-       "\n"});
+  Put("module Pandrel\n"
+      "names = case_sensitive\n"
+      "\n");
   GenProcedures();
   for (Widg* widg = top; widg; widg = widg->next) GenUILForWidg(widg);
-  Put({"\nend module;\n\n"});
+  Put("\nend module;\n\n");
   Flush();
 }
