@@ -43,7 +43,8 @@ std::string Contents(Widget widget) {
     return LabelText(widget) + (set ? " set" : "");
   }
   if (XmIsText(widget)) return " value=" + Quoted(ToolkitText(XmTextGetString(widget)).get());
-  if (XmIsTextField(widget)) return " value=" + Quoted(ToolkitText(XmTextFieldGetString(widget)).get());
+  if (XmIsTextField(widget))
+    return " value=" + Quoted(ToolkitText(XmTextFieldGetString(widget)).get());
   if (XmIsList(widget)) {
     int count = 0;
     XtVaGetValues(widget, XmNitemCount, &count, nullptr);

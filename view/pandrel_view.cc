@@ -17,8 +17,8 @@
 #include "view_session.h"
 
 int main(int argc, char** argv) {
-  using view::Options;
   using view::kProgram;
+  using view::Options;
   const Options options = view::ParseOptions({argv + 1, argv + argc});
   switch (options.action) {
     case Options::Action::kHelp:

@@ -13,7 +13,6 @@ namespace {
 
 using PopupParents = SessionFixture;
 
-
 TEST_F(PopupParents, FirstPopupMenuAmongTheChildrenIsFound) {
   Widg* menu = Popup("menu");
   EXPECT_EQ(PopupMenuChild(NewWidg("XmForm", "form", {NewWidg("XmLabel", "a"), menu, Popup("b")})),
