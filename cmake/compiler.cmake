@@ -16,7 +16,7 @@ target_compile_options(pandrel_flags INTERFACE
   -ffile-prefix-map=${CMAKE_SOURCE_DIR}=. -ffile-prefix-map=${CMAKE_BINARY_DIR}=.)
 if(PANDREL_ASAN)
   target_compile_options(pandrel_flags INTERFACE
-    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -g)
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(pandrel_flags INTERFACE -fsanitize=address,undefined)
   target_compile_definitions(pandrel_flags INTERFACE PANDREL_SANITIZED=1 PANDREL_REPORTS_AT_EXIT=1)
 endif()
