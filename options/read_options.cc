@@ -90,10 +90,7 @@ std::string ReadOptions(const std::vector<std::string_view>& arguments,
 }
 
 Option Flag(std::string name, char letter, bool& flag, bool value) {
-  return {std::move(name), letter, Value::kNone, [&flag, value](const std::string&) {
-            flag = value;
-            return std::string();
-          }};
+  return Set(std::move(name), letter, flag, value);
 }
 
 Option Text(std::string name, char letter, std::string& text) {

@@ -8,6 +8,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace options {
@@ -30,7 +31,16 @@ struct Option {
 std::string ReadOptions(const std::vector<std::string_view>& arguments,
                         const std::vector<Option>& table, const Take& take_operand);
 
-// Rows of the table that set a flag, or a text.
+// A row of the table that sets `target` to `value`.
+template <typename T>
+Option Set(std::string name, char letter, T& target, T value) {
+  return {std::move(name), letter, Value::kNone, [&target, value](const std::string&) {
+            target = value;
+            return std::string();
+          }};
+}
+
+// Rows that set a flag, or a text.
 Option Flag(std::string name, char letter, bool& flag, bool value = true);
 Option Text(std::string name, char letter, std::string& text);
 

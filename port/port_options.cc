@@ -18,20 +18,14 @@ std::string TakeJobs(const std::string& text, int& jobs) {
 
 std::vector<options::Option> TableFor(Options& given) {
   using Action = Options::Action;
-  const auto inform = [&given](Action action) {
-    return [&given, action](const std::string&) {
-      given.action = action;
-      return std::string();
-    };
-  };
   const auto take_tree = [&given](const std::string&) {
     if (given.action == Action::kPort) given.action = Action::kTree;
     return std::string();
   };
   const auto take_jobs = [&given](const std::string& text) { return TakeJobs(text, given.jobs); };
   std::vector<options::Option> table = {
-      {"help", 'h', options::Value::kNone, inform(Action::kHelp)},
-      {"version", 0, options::Value::kNone, inform(Action::kVersion)},
+      options::Set("help", 'h', given.action, Action::kHelp),
+      options::Set("version", 0, given.action, Action::kVersion),
       {"recursive", 'r', options::Value::kNone, take_tree},
       {"jobs", 'j', options::Value::kNeeded, take_jobs},
       options::Text("output", 'o', given.output),

@@ -36,12 +36,6 @@ void AddToolkitOptions(std::vector<options::Option>& table, Options& given) {
 
 std::vector<options::Option> TableFor(Options& given) {
   using Action = Options::Action;
-  const auto inform = [&given](Action action) {
-    return [&given, action](const std::string&) {
-      given.action = action;
-      return std::string();
-    };
-  };
   const auto take_check = [&given](const std::string& form) {
     given.check = form.empty() ? Options::Check::kSentences : Options::Check::kTabs;
     return form.empty() || form == "tab" ? "" : "unknown option: --check=" + form;
@@ -51,8 +45,8 @@ std::vector<options::Option> TableFor(Options& given) {
     return std::string();
   };
   std::vector<options::Option> table = {
-      {"help", 'h', Value::kNone, inform(Action::kHelp)},
-      {"version", 0, Value::kNone, inform(Action::kVersion)},
+      options::Set("help", 'h', given.action, Action::kHelp),
+      options::Set("version", 0, given.action, Action::kVersion),
       {"check", 0, Value::kOptional, take_check},
       {"resources", 0, Value::kNeeded, take_resources},
       options::Text("output", 'o', given.picture),

@@ -14,9 +14,13 @@
 #include "text/uil_text.h"
 #include "widget/tree.h"
 
-// An empty title is written like any other.
-static void HandleWindowAttribute(Obj* /*obj*/, Widg* widg, const Attr* attr) {
+static void HandleBaseWindowAttribute(Obj* /*obj*/, Widg* widg, const Attr* attr) {
   if (attr->name == LABEL) AddResource(widg, "XmNtitle", ValueText(attr->value));
+}
+
+// An empty title is written like any other.
+static void HandlePopupWindowAttribute(Obj* obj, Widg* widg, const Attr* attr) {
+  HandleBaseWindowAttribute(obj, widg, attr);
 }
 
 static void HandleMessageAttribute(Obj* obj, Widg* widg, const Attr* attr) {
@@ -125,14 +129,14 @@ struct HandlerRow {
 
 // Control areas, text panes, settings and groups have none.
 static const HandlerRow kHandlers[] = {
-    {BASE_WINDOW, HandleWindowAttribute},
+    {BASE_WINDOW, HandleBaseWindowAttribute},
     {MESSAGE, HandleMessageAttribute},
     {BUTTON, HandleButtonAttribute},
     {CANVAS_PANE, HandleCanvasPaneAttribute},
     {MENU, HandleMenuAttribute},
     {TEXT_FIELD, HandleTextFieldAttribute},
     {SCROLLING_LIST, HandleScrollingListAttribute},
-    {POPUP_WINDOW, HandleWindowAttribute},
+    {POPUP_WINDOW, HandlePopupWindowAttribute},
     {SLIDER, HandleSliderAttribute},
     {GAUGE, HandleSliderAttribute},
 };
