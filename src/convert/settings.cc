@@ -12,6 +12,7 @@
 #include "gil/tokens.h"
 #include "gil/value.h"
 #include "osi/fatal.h"
+#include "widget/gil_name.h"
 #include "widget/links.h"
 #include "widget/resources.h"
 #include "widget/tree.h"

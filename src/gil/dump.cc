@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "gil/object.h"
-#include "gil/scanner.h"
+#include "gil/position.h"
 #include "gil/tokens.h"
 #include "gil/words.h"
 

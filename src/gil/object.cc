@@ -4,7 +4,7 @@
 #include <cstdio>
 #include <cstring>
 
-#include "gil/scanner.h"
+#include "gil/position.h"
 #include "gil/tokens.h"
 #include "osi/arena.h"
 #include "osi/fatal.h"

@@ -4,6 +4,7 @@
 // Nothing nests deeper than an action's lists, so a file of any size needs little stack.
 #include "gil/parser.h"
 
+#include "gil/position.h"
 #include "gil/scanner.h"
 #include "gil/tokens.h"
 #include "gil/version.h"

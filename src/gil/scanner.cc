@@ -10,14 +10,12 @@
 #include <cstring>
 #include <string_view>
 
+#include "gil/position.h"
 #include "gil/tokens.h"
 #include "gil/version.h"
 #include "gil/words.h"
 #include "osi/fatal.h"
 
-const char* yytext = "";
-std::size_t yyleng = 0;
-int32_t yylineno = 1;
 Value* yylval = nullptr;
 
 namespace {
@@ -31,13 +29,13 @@ static_assert(kBufferSize > 2 * kLookAhead);
 // characters without NUL need not test for the end.
 char buffer[kBufferSize + 1];
 
-struct Input {
+struct InputWindow {
   const char* cursor = buffer;
   const char* end = buffer;
   bool at_end = false;
 };
 
-Input input;
+InputWindow input;
 
 enum CharClass : uint8_t {
   kLetter = 1,
@@ -258,21 +256,12 @@ int32_t yylex() {
 }
 
 void yyrestart() {
-  input = Input();
+  input = InputWindow();
   buffer[0] = '\0';
   std::clearerr(stdin);
 }
 
-void yyerror(const char* message) {
-  // Like all texts, a message ends at the first NUL byte of the token.
-  std::fprintf(stderr, "\n*** %d: %s at %.*s\n", static_cast<int>(yylineno), message,
-               static_cast<int>(yyleng), yytext);
-}
-
 void ResetScanner() {
   yyrestart();
-  yytext = "";
-  yyleng = 0;
-  yylineno = 1;
   yylval = nullptr;
 }

@@ -12,30 +12,19 @@
 // The longest token, in bytes.
 constexpr std::size_t kTokenLimit = 10000;
 
-// The current token as it is in the file; not NUL-terminated, empty at the end of input, valid
-// until the next call of yylex.
-extern const char* yytext;
-extern std::size_t yyleng;
-
-// The line of the last byte that belongs to a token, from 1, counted through all files of a
-// project.
-extern int32_t yylineno;
-
 // The value of the last IDENTIFIER, STRING_VALUE or INTEGER_VALUE.
 extern Value* yylval;
 
-// The next token, or 0 at the end of input. Reports unknown keywords and illegal characters on
-// standard error and skips them. Reports a token over the limit on standard output and ends the run
-// with status 1. A directory or a read error counts as the end of input.
+// The next token, or 0 at the end of input; gil/position.h has its text. Reports unknown keywords
+// and illegal characters on standard error and skips them. Reports a token over the limit on
+// standard output and ends the run with status 1. A directory or a read error counts as the end of
+// input.
 int32_t yylex();
 
 // Starts again, after standard input was reopened on another file.
 void yyrestart();
 
-// Reports `message` with the current line and token on standard error and returns.
-void yyerror(const char* message);
-
-// Resets the line count, and drops the last value and all input that was read ahead.
+// Drops the last value and all input that was read ahead.
 void ResetScanner();
 
 #endif

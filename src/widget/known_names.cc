@@ -35,13 +35,14 @@ struct KnownNames {
   std::size_t forgotten = 0;  // and to forget them
   bool ended = false;
   int claims = 0;
+  std::string key;  // of the last look-up, so that its memory is used again
 };
 
 KnownNames known;
 
 constexpr std::size_t kFewWidgets = 100000;
 
-std::string Key(const char* name) { return name ? name : ""; }
+const std::string& Key(const char* name) { return known.key = name ? name : ""; }
 
 // Menus of the top level that are claimed below a window keep their place.
 bool IsBelow(const Widg* widg) { return !widg->top_level; }

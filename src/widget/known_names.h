@@ -8,9 +8,8 @@
 //   - A search tests the whole top level first, and the widgets below a later window before those
 //     below an earlier one. A window linked at the end therefore only overwrites the answers for
 //     the names that it brings.
-//   - Any other move changes only the answers for the names of the widgets that moved. Their
-//   answers
-//     are dropped; the next search for one goes through the windows and caches what it found.
+//   - Any other move changes only the answers for the names of the widgets that moved, which are
+//     dropped; the next search for one goes through the windows and caches what it found.
 // A widget that claims a menu of the top level gets it into its own list, while the menu stays at
 // the top level until the clean-up. Until then only its place at the top level matters. Two users
 // of one menu make it `shared`, and its parent must be searched. Anything stranger (a list whose

@@ -8,7 +8,6 @@
 #include "osi/fatal.h"
 #include "osi/strings.h"
 #include "text/uil_text.h"
-#include "widget/known_names.h"
 
 Widg* top_widget = nullptr;
 
@@ -32,12 +31,6 @@ Widg* MakeWidg(const char* class_name, char* requested) {
   widg->class_name = class_name;
   widg->managed = 1;
   return widg;
-}
-
-void SetGilName(Widg* widg, char* gil_name) {
-  const char* former = widg->gil_name;
-  widg->gil_name = gil_name;
-  NamesRenamed(widg, former);
 }
 
 Resource* MakeResource(const char* name, const char* value) {
@@ -110,7 +103,4 @@ void MoveResource(Widg* from, const char* name, Widg* to) {
   RemoveResource(from, name);
 }
 
-void ResetTree() {
-  top_widget = nullptr;
-  ResetKnownNames();
-}
+void ResetTree() { top_widget = nullptr; }

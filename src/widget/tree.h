@@ -68,9 +68,6 @@ Widg* MakeWidg(const char* class_name, char* requested);
 Resource* MakeResource(const char* name, const char* value);
 Callback* MakeCallback(const char* callback_name, char* procedure, const char* argument);
 
-// Gives the widget another GIL name, which is shared, not copied.
-void SetGilName(Widg* widg, char* gil_name);
-
 // Whether the widget is of that Motif class.
 inline bool IsClass(const Widg* widg, const char* class_name) {
   return OsiStrcmp(widg->class_name, class_name) == 0;

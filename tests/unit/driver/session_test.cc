@@ -6,7 +6,7 @@
 #include "driver/driver.h"
 #include "flags/flags.h"
 #include "gil/parser.h"
-#include "gil/scanner.h"
+#include "gil/position.h"
 #include "gil/version.h"
 #include "names/name_table.h"
 #include "text/uil_text.h"

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "gil/position.h"
 #include "gil/tokens.h"
 #include "gil/version.h"
 #include "gil/words.h"
@@ -408,7 +409,7 @@ TEST_F(ScannerTest, LinesOfAnUnterminatedStringCountOnce) {
 
 TEST_F(ScannerTest, ResetStartsTheLinesAnew) {
   Scan("(\n\n");
-  ResetScanner();
+  ResetPosition();
   EXPECT_EQ(yylineno, 1);
   EXPECT_EQ(yyleng, 0U);
   EXPECT_STREQ(yytext, "");

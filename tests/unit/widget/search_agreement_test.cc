@@ -10,6 +10,7 @@
 
 #include "unit/support/session_fixture.h"
 #include "unit/support/widgets.h"
+#include "widget/known_names.h"
 #include "widget/links.h"
 #include "widget/nesting.h"
 #include "widget/plain_search.h"
@@ -119,6 +120,7 @@ TEST_P(WidgSearchAgreement, SearchesFindWhatTheTreeHolds) {
     const unsigned seed = GetParam() * 1000 + round;
     SCOPED_TRACE(std::string("seed ").append(std::to_string(seed)));
     ResetTree();
+    ResetKnownNames();
     RandomLinks links(seed);
     for (int step = 0; step < kSteps; ++step) {
       links.Step();

@@ -15,6 +15,8 @@
 #include "unit/support/session_fixture.h"
 #include "unit/support/widgets.h"
 #include "widget/copy.h"
+#include "widget/gil_name.h"
+#include "widget/known_names.h"
 #include "widget/links.h"
 #include "widget/nesting.h"
 #include "widget/plain_search.h"
@@ -219,6 +221,7 @@ TEST_P(WidgSearchRandom, ProjectsAreSearchedAsTheTreeIs) {
     const unsigned seed = GetParam() * 1000 + round;
     SCOPED_TRACE(std::string("seed ").append(std::to_string(seed)));
     ResetTree();
+    ResetKnownNames();
     RandomProject(seed).Convert();
     if (HasFailure()) return;
   }

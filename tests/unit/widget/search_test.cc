@@ -8,6 +8,7 @@
 
 #include "unit/support/session_fixture.h"
 #include "unit/support/widgets.h"
+#include "widget/gil_name.h"
 #include "widget/known_names.h"
 #include "widget/links.h"
 #include "widget/nesting.h"
