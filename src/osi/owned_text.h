@@ -25,7 +25,10 @@ struct OsiAllocator {
   template <typename U>
   explicit(false) OsiAllocator(const OsiAllocator<U>& /*other*/) {}
 
-  T* allocate(std::size_t count) { return static_cast<T*>(OsiMalloc(count * sizeof(T))); }
+  T* allocate(std::size_t count) {
+    // T may be a pointer, as in the buckets of a hash table.
+    return static_cast<T*>(OsiMalloc(count * sizeof(T)));  // NOLINT(bugprone-sizeof-expression)
+  }
   void deallocate(T* block, std::size_t /*count*/) { OsiFree(block); }
 
   template <typename U>
