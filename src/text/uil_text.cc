@@ -2,8 +2,10 @@
 #include "text/uil_text.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cstdlib>
 #include <cstring>
+#include <iterator>
 #include <string>
 #include <string_view>
 
@@ -27,8 +29,9 @@ char* JoinTexts(const char* before, const char* text, const char* after,
 }
 
 char* IntToString(int32_t number) {
-  const std::string digits = std::to_string(number);
-  char* text = ArenaText(digits.data(), digits.size());
+  char digits[16];  // room for "-2147483648"
+  const char* end = std::to_chars(std::begin(digits), std::end(digits), number).ptr;
+  char* text = ArenaText(digits, static_cast<std::size_t>(end - digits));
   if (!text) Error("Out of memory in IntToString");
   return text;
 }

@@ -26,7 +26,7 @@ void Flush() {
 
 template <typename... Parts>
 void Put(const Parts&... parts) {
-  (text.append(parts), ...);
+  (text.append(std::string_view(parts)), ...);
 }
 
 // A text that may be missing.
