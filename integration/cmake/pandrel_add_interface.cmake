@@ -17,8 +17,8 @@ said. Their full names stand in the target's properties PANDREL_UIL, PANDREL_UID
 
 Inputs are copied to the binary directory under the names they have relative to BASE, and the conversion
 runs there, in the folder of the input: pandrel looks for the files of a project and for glyphs from where
-it runs, and writes bitmaps beside them, which must not happen among the sources. A glyph that the interface
-names and that is not listed is missing there; the build warns of it.
+it runs, and writes bitmaps beside them, which must not happen among the sources. A glyph or an interface file
+that is named in the input and not listed here is missing there; the build warns of it.
 ]]
 function(pandrel_add_interface target input)
   cmake_parse_arguments(PARSE_ARGV 2 arg "NO_UID;NO_MEND;ALL" "BASE"

@@ -4,8 +4,8 @@ cmake -DPANDREL=<program> -DUILFIX=<program, or empty> -DINPUT=<file> -DUIL=<mod
       -DFLAGS=<list> -DUILFIX_FLAGS=<list> -P pandrel_convert.cmake
 
 What a target of pandrel_add_interface runs, in the folder of the input: converts, mends unless UILFIX is
-empty, and keeps all that the programs say in <stem>.log beside the module. Icons that are missing are told
-of as warnings.
+empty, and keeps all that the programs say in <stem>.log beside the module. Icons and files of a project
+that are missing are told of as warnings.
 ]]
 cmake_path(REPLACE_EXTENSION UIL LAST_ONLY ".log" OUTPUT_VARIABLE log)
 # Two conversions must not make the same bitmap at once.
@@ -26,6 +26,12 @@ list(REMOVE_DUPLICATES missing)
 foreach(line IN LISTS missing)
   string(REPLACE "Cannot access glyph filename " "" glyph "${line}")
   message(WARNING "${INPUT} names the icon ${glyph}, which is not there. Is it listed among the GLYPHS?")
+endforeach()
+
+string(REGEX MATCHALL "Cannot open project file [^\n]* for reading" missing "${said}")
+foreach(line IN LISTS missing)
+  string(REGEX REPLACE "Cannot open project file (.*) for reading" "\\1" interface "${line}")
+  message(WARNING "${INPUT} names the file ${interface}, which is not there. Is it listed among the INTERFACES?")
 endforeach()
 
 if(UILFIX)

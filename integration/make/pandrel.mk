@@ -6,7 +6,7 @@
 #
 # A conversion runs in the folder of its input, where interfaces name their icons from and projects
 # their files. All that the programs say goes to app.log beside app.uil: notes, warnings, changes by
-# the mender. An icon that is missing is told of on the terminal too.
+# the mender. An icon or a project's file that is missing is told of on the terminal too.
 #
 # Set before or after the include:
 #   PANDREL_FLAGS           options of pandrel
@@ -33,11 +33,11 @@ UIL ?= uil
 UIL_TIME_LIMIT ?= 60
 
 # The module gets its name only when it is whole: pandrel empties its output before it reads. When it
-# fails, what it said last is shown; what it says of icons always.
+# fails, what it said last is shown; what it says of files that are not there always.
 define pandrel_convert
 cd $(<D) && $(PANDREL_LOCK) $(PANDREL) $(PANDREL_FLAGS) $(abspath $@).raw < $(<F) > $(abspath $(@:.uil=.log)) 2>&1 || \
   { tail -n 5 $(abspath $(@:.uil=.log)) >&2; rm -f $(abspath $@).raw; exit 1; }
-@grep '^Cannot access glyph filename' $(@:.uil=.log) >&2 || :
+@grep -E '^Cannot (access glyph filename|open project file) ' $(@:.uil=.log) >&2 || :
 $(if $(PANDREL_UILFIX),$(PANDREL_UILFIX) $(PANDREL_UILFIX_FLAGS) -o $@.mended $@.raw 2>> $(@:.uil=.log) && mv $@.mended $@.raw)
 @mv $@.raw $@
 endef
@@ -50,3 +50,6 @@ endef
 
 %.uid: %.uil
 	timeout $(UIL_TIME_LIMIT) $(UIL) $(UILFLAGS) -o $@ $<
+
+# Kept, with the log beside it, also where only the compiled module is asked for.
+.PRECIOUS: %.uil
