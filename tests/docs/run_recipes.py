@@ -3,7 +3,8 @@
 """Runs the commands of README.md and docs/batch.md as they are written, with the programs of a build.
 
 Of README.md the ```sh blocks, but for those that call make, which would build and test once more
-(scripts/fresh-root-check runs them too). Of docs/batch.md the local recipes for xargs and GNU parallel, and those for whole programs.
+(scripts/fresh-root-check runs them too). Of docs/batch.md the recipes for xargs and GNU parallel, which
+run on this machine alone, and those for whole programs.
 
 usage: run_recipes.py --bin DIR [--bin DIR ...]
 """
@@ -68,6 +69,19 @@ def main():
             if done.stdout or {path for path in wanted if not path.exists() or not path.stat().st_size}:
                 failures += 1
                 print(f"docs/batch.md {heading}: {done.stdout}{done.stderr}")
+    # Many machines: this one alone, to which parallel has nothing to carry.
+    carried = re.findall(r"(?:^    .*\n)+", page.split("\n### On many machines\n")[1].split("\n## ")[0], re.M)[1]
+    if shutil.which("parallel"):
+        with tempfile.TemporaryDirectory() as folder:
+            work = pathlib.Path(folder)
+            shutil.copytree(ROOT / "examples", work / "a tree")
+            (work / "machines").write_text(":\n")
+            (work / "files").write_text("a tree/hello.G\na tree/library/loan.G\n")
+            run("docs/batch.md many machines", re.sub("^    ", "", carried, flags=re.M), work)
+            for result in ["hello.uil", "hello.log", "library/loan.uil", "library/loan.log"]:
+                if not (work / "a tree" / result).exists():
+                    failures += 1
+                    print(f"docs/batch.md many machines: {result} was not made")
     # Programs: all blocks of the section, the names of folders and of the array's list made this test's.
     section = page.split("\n## Programs: pandrel-port -r\n")[1].split("\n## ")[0]
     tree, find, task = re.findall(r"(?:^    .*\n)+", section, re.M)
