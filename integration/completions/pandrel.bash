@@ -57,8 +57,10 @@ _pandrel() {
       ;;
     gildump:-*) ;;
     *:-*)
+      # Of an option that takes its value or a part of its name behind it, up to there.
       mapfile -t COMPREPLY < <(compgen -W "$("$1" --help 2> /dev/null |
-        grep -o -E '(^|[[:space:],[(|])--?[[:alpha:]][[:alnum:]-]*=?' | tr -d ' \t,[(|')" -- "$word")
+        grep -o -E '(^|[[:space:],[(|])--?[[:lower:]][[:lower:][:digit:]-]*=?' | tr -d ' \t,[(|')" -- "$word")
+      if [[ ${COMPREPLY[*]} == --*[=-] ]]; then compopt -o nospace; fi
       ;;
     *)
       if [[ $operands == folders ]]; then
