@@ -343,6 +343,19 @@ TEST_F(Actions, TextOfATargetIsRenamedForAllWhoShareTheAction) {
   EXPECT_EQ(Callbacks(other), "XmNactivateCallback ZoSetSensitiveCB(\"(WL)[bB]\")");
 }
 
+TEST_F(Actions, ProcedureThatIsRenamedWithATargetIsDeclaredOnce) {
+  Widg* ok = Ok();
+  Widg* other = NewWidg("XmPushButton", "other");
+  TopLevel({other, NewWidg("XmLabel", "b1")});
+  const Action* call = Call("ok", "Notify", "b1");
+  Action* enable = Predefined("ok", "Notify", "b1", "Enable");
+  enable->to = call->actionName;
+  ProcessAction(ok, call);
+  ProcessAction(ok, enable);
+  ProcessAction(other, Call("other", "Notify", "bB"));
+  EXPECT_EQ(Procedures(), "bB ZoSetSensitiveCB");
+}
+
 TEST_F(Actions, TargetIsRenamedThoughTheEventHasNoCallback) {
   Widg* ok = Ok();
   TopLevel({NewWidg("XmLabel", "item1"), NewWidg("XmLabel", "other2")});

@@ -143,6 +143,7 @@ TEST_F(OsiFileAccessDeathTest, KnowsTheGroupsOfTheUser) {
 TEST_F(OsiFileAccessDeathTest, LooksAtTheGroupsBitsOfTheListedGroupsOnly) {
   const std::string own = Give(getgid(), 0640);
   EXPECT_EXIT(ExpectAccessWithGroups({kGroup}, own, ""), testing::ExitedWithCode(0), "");
+  EXPECT_EXIT(ExpectAccessWithGroups({}, own, ""), testing::ExitedWithCode(0), "");
   EXPECT_EXIT(ExpectAccessWithGroups({getgid()}, own, "ro"), testing::ExitedWithCode(0), "");
   const std::string others = Give(getgid(), 0604);
   EXPECT_EXIT(ExpectAccessWithGroups({getgid()}, others, ""), testing::ExitedWithCode(0), "");
