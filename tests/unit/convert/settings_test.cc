@@ -7,6 +7,8 @@
 #include <string>
 
 #include "flags/flags.h"
+#include "gil/tokens.h"
+#include "gil/value.h"
 #include "unit/support/check_widg_tree.h"
 #include "unit/support/fatal_end.h"
 #include "unit/support/gil_objects.h"
@@ -83,6 +85,16 @@ TEST_F(Settings, OneColumnIsACount) {
 TEST_F(Settings, OneRowIsACount) {
   EXPECT_EQ(Resources(Setting({Tok(SETTING_TYPE, CHECK), Int(ROWS, 1), Strs(CHOICES, {"A"})})),
             "XmNorientation=XmHORIZONTAL XmNnumColumns=1 XmNpacking=XmPACK_COLUMN");
+}
+
+// A project that follows the interface converts the setting once more, then without a count.
+TEST_F(Settings, CountIsConsumed) {
+  Obj* obj =
+      Object(SETTING, "hue",
+             {Tok(SETTING_TYPE, CHECK), Int(COLUMNS, 0), Int(ROWS, 2), Strs(CHOICES, {"A"})});
+  Convert(obj);
+  EXPECT_EQ(PeekValue(obj, COLUMNS), nullptr);
+  EXPECT_EQ(PeekValue(obj, ROWS), nullptr);
 }
 
 TEST_F(Settings, ZeroAndNegativeCountsAreNone) {
