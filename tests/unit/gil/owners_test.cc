@@ -132,6 +132,17 @@ TEST_F(OwnersTest, ConsumedNameIsNoName) {
   EXPECT_EQ(List(top), "q ?");
 }
 
+// Only a text that was changed can be empty.
+TEST_F(OwnersTest, EmptyOwnerIsTheObjectWithoutAName) {
+  Forest({":x 1", ":name q :owner P"});
+  Obj* q = top->next;
+  Value* owner = nullptr;
+  ASSERT_EQ(GetAttrValue(q, 372, &owner, 0), 1);
+  owner->sval[0] = '\0';
+  EXPECT_EQ(Run([] { top = resolveChildren(top); }).err, "");
+  EXPECT_EQ(List(top), "?(q)");
+}
+
 TEST_F(OwnersTest, ChangedNameIsTakenAsItStands) {
   Forest({":name p", ":name q :owner P"});
   top->name[0] = 'P';
