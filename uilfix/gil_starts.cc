@@ -78,6 +78,25 @@ std::optional<GilStart> TakeObject(std::string_view& text) {
 
 }  // namespace
 
+bool HoldsGil(std::string_view text) { return TakeToken(text) == "("; }
+
+std::vector<std::string> ReadGilInterfaces(std::string_view gil) {
+  std::vector<std::string> files;
+  if (TakeToken(gil) != "(") return files;
+  // In an interface file an object follows here.
+  for (std::string_view attribute = TakeToken(gil); attribute.starts_with(':');
+       attribute = TakeToken(gil)) {
+    const std::string_view value = TakeToken(gil);
+    const auto list = value == "(" ? TakeList(gil) : std::vector<std::string_view>();
+    if (attribute != ":interfaces") continue;
+    for (std::string_view word : list) {
+      if (word.size() > 1 && word.starts_with('"')) word = word.substr(1, word.size() - 2);
+      files.emplace_back(word);
+    }
+  }
+  return files;
+}
+
 std::vector<GilStart> ReadGilStarts(std::string_view gil) {
   std::vector<GilStart> starts;
   int depth = 0;

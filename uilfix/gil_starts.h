@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The initial values of sliders, gauges and lists in a GIL file; a module does not have them.
+// The initial values of sliders, gauges and lists in a GIL file; a module does not have them. And
+// the files of a project, which has them only there.
 #ifndef PANDREL_UILFIX_GIL_STARTS_H
 #define PANDREL_UILFIX_GIL_STARTS_H
 
@@ -18,8 +19,14 @@ struct GilStart {
   std::vector<bool> selections;  // of a list, for each of its items whether it is selected
 };
 
+// Whether the text begins as GIL does: with a parenthesis, after comments.
+bool HoldsGil(std::string_view text);
+
+// The interface files that a GIL text names, in its order; none for a text that is not a project.
+std::vector<std::string> ReadGilInterfaces(std::string_view gil);
+
 // Every slider, gauge and list of a GIL text, in its order, also those without initial values. A
-// text that is not GIL gives none.
+// text that is not GIL gives none, nor does a project.
 std::vector<GilStart> ReadGilStarts(std::string_view gil);
 
 }  // namespace uilfix

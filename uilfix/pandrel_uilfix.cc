@@ -13,6 +13,7 @@
 namespace {
 
 constexpr char kProgram[] = "pandrel-uilfix";
+constexpr char kReplacesInput[] = "would replace the input";
 constexpr int kFailure = 1;
 constexpr int kUsage = 2;
 
@@ -35,24 +36,41 @@ bool IsSameFile(const std::string& a, const std::string& b) {
   return !IsStandard(a) && !IsStandard(b) && std::filesystem::equivalent(a, b, error);
 }
 
-int Fix(const uilfix::Options& options) {
-  for (const std::string& file : {options.input, options.gil}) {
-    if (!IsSameFile(file, options.output)) continue;
-    std::cerr << kProgram << ": " << options.output << ": would replace the input\n";
-    return kFailure;
+int Refuse(const std::string& file, const std::string& reason) {
+  std::cerr << kProgram << ": " << file << ": " << reason << "\n";
+  return kFailure;
+}
+
+// Reads the initial values in the GIL file; for a project, those in its interface files, which are
+// in its folder. Returns 0, or the exit status after a message.
+int ReadStarts(const uilfix::Options& options, std::vector<uilfix::GilStart>& starts) {
+  std::vector<std::string> files = {options.gil};
+  const auto folder = std::filesystem::path(options.gil).parent_path();
+  for (std::size_t i = 0; i < files.size(); ++i) {
+    const std::string file = files[i];
+    if (IsSameFile(file, options.output)) return Refuse(options.output, kReplacesInput);
+    const auto gil = uilfix::ReadFile(file);
+    if (!gil) return Fail(file);
+    if (!uilfix::HoldsGil(*gil)) return Refuse(file, "no GIL file");
+    const auto more = uilfix::ReadGilStarts(*gil);
+    starts.insert(starts.end(), more.begin(), more.end());
+    if (i > 0) continue;
+    for (const std::string& name : uilfix::ReadGilInterfaces(*gil)) {
+      files.push_back((folder / name).string());
+    }
   }
+  return 0;
+}
+
+int Fix(const uilfix::Options& options) {
+  if (IsSameFile(options.input, options.output)) return Refuse(options.output, kReplacesInput);
   const std::string input = IsStandard(options.input) ? "standard input" : options.input;
   const auto text = uilfix::ReadFile(options.input);
   if (!text) return Fail(input);
-  if (!uilfix::HoldsModule(*text)) {
-    std::cerr << kProgram << ": " << input << ": no UIL module\n";
-    return kFailure;
-  }
+  if (!uilfix::HoldsModule(*text)) return Refuse(input, "no UIL module");
   std::vector<uilfix::GilStart> starts;
   if (!options.gil.empty()) {
-    const auto gil = uilfix::ReadFile(options.gil);
-    if (!gil) return Fail(options.gil);
-    starts = uilfix::ReadGilStarts(*gil);
+    if (const int status = ReadStarts(options, starts); status != 0) return status;
   }
   uilfix::Report report;
   const auto fixed = uilfix::MendText(*text, options.selection, report, starts);
