@@ -35,6 +35,15 @@ std::string AttributeOf(std::string_view object, std::string_view keyword) {
   return "";
 }
 
+// Whether the converter or the mender may have put this behind a name: nothing, a number, of which
+// builder 2.5 writes the last digit as a letter, the name of a part as in "_label", or that of a
+// menu's item.
+bool IsAddedToNames(std::string_view rest) {
+  if (rest.empty() || rest[0] == '_' || rest.starts_with("choice")) return true;
+  const bool letter = rest.size() == 1 && rest[0] >= 'A' && rest[0] <= 'I';
+  return letter || (rest[0] >= '0' && rest[0] <= '9');
+}
+
 constexpr std::string_view kType = ":type";
 
 // Calls `visit` with the text of each object, from its type to the next object's.
@@ -105,7 +114,11 @@ std::string WidgetForm(const std::string& gil_name) {
 std::string GuessGilName(const std::vector<std::string>& gil_names, std::string_view widget) {
   std::string best;
   for (const std::string& name : gil_names) {
-    if (widget.starts_with(WidgetForm(name)) && name.size() > best.size()) best = name;
+    const std::string form = WidgetForm(name);
+    if (!widget.starts_with(form)) continue;
+    // What was cut off may be what tells.
+    if (widget.size() < kCutLength && !IsAddedToNames(widget.substr(form.size()))) continue;
+    if (name.size() > best.size()) best = name;
   }
   return best;
 }

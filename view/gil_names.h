@@ -32,8 +32,9 @@ std::string ReadGilText(const std::filesystem::path& file);
 // the first letter lowered and the whole cut to 30 characters.
 std::string WidgetForm(const std::string& gil_name);
 
-// The GIL name that the widget's name was most likely made from: the longest that the widget's
-// name begins with, in its WidgetForm(). Empty for none.
+// The GIL name that the widget's name was most likely made from: the longest that is, in its
+// WidgetForm(), the widget's name without a number, a part's name or an item's at its end. Empty
+// for none: the converter makes widgets of its own, such as "menubar".
 std::string GuessGilName(const std::vector<std::string>& gil_names, std::string_view widget);
 
 }  // namespace view

@@ -26,6 +26,19 @@ TEST(GilNames, LongestFittingNameIsGuessed) {
   EXPECT_EQ(GuessGilName(names, "bboard"), "");
 }
 
+TEST(GilNames, OnlyWhatTheConverterAddsMayFollow) {
+  const std::vector<std::string> names = {"menu", "b", "Draw"};
+  for (const char* own : {"menubar", "menubar4", "bboard1", "drawing", "menuBar"}) {
+    EXPECT_EQ(GuessGilName(names, own), "") << own;
+  }
+  for (const char* made : {"menu", "menuchoice2", "menuB", "menu1C", "menu_widget"}) {
+    EXPECT_EQ(GuessGilName(names, made), "menu") << made;
+  }
+  EXPECT_EQ(GuessGilName(names, "b_toggle_b1"), "b");
+  const std::string cut = "aNameOf27LettersBeforeItWas";
+  EXPECT_EQ(GuessGilName({cut}, cut + "cho1"), cut);
+}
+
 TEST(GilNames, PopupsWithTheirPinsIn) {
   EXPECT_THAT(ReadPinnedPopups("((:type :popup-window :name a :pinned t)"
                                "(:type :popup-window :name b :pinned nil)"
