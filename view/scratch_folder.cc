@@ -42,7 +42,13 @@ void RemoveFolder(const fs::path& folder) {
 
 ScratchFolder::ScratchFolder() {
   std::error_code error;
-  std::string name = (fs::temp_directory_path(error) / "pandrel-view-XXXXXX").string();
+  const fs::path parent = fs::temp_directory_path(error);
+  if (error) {
+    errno = error.value();
+    return;
+  }
+  // Absolute, since programs in other folders write there.
+  std::string name = fs::absolute(parent / "pandrel-view-XXXXXX").string();
   int ends[2];
   if (!mkdtemp(name.data())) return;
   path_ = name;

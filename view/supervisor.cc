@@ -218,9 +218,17 @@ void MakeAbsolute(std::string& file) {
   if (!file.empty()) file = fs::absolute(file).string();
 }
 
+// A standard stream that is closed would become the first file or pipe that is opened here.
+void OpenClosedStreams() {
+  for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+    if (fcntl(stream, F_GETFD) < 0) open("/dev/null", O_RDWR);
+  }
+}
+
 }  // namespace
 
 int Supervise(Options options) {
+  OpenClosedStreams();
   MakeAbsolute(options.picture);
   MakeAbsolute(options.picture_folder);
   for (std::string& file : options.resource_files) MakeAbsolute(file);

@@ -315,6 +315,31 @@ class CleaningUp(WithServer):
             slow.unlink()
             self.check_gone()
 
+    def test_temporary_folder_named_from_where_the_user_is(self):
+        environment = dict(self.server.environment(PROGRAMS), TMPDIR="tmp")
+        done = run(self.server, "--compact", "--check", EXAMPLES / "hello.G", env=environment,
+                   cwd=self.folder)
+        self.assertEqual((done.returncode, done.stdout, done.stderr), (0, "", ""))
+        self.check_gone()
+
+    def test_temporary_folder_that_is_not_there(self):
+        environment = dict(self.server.environment(PROGRAMS), TMPDIR="/no/such/folder")
+        done = run(self.server, "--check", EXAMPLES / "hello.G", env=environment, cwd=self.folder)
+        self.assertEqual(done.returncode, 1)
+        self.assertEqual(done.stderr, "pandrel-view: cannot make a temporary folder: "
+                                      "No such file or directory\n")
+        self.assertEqual(list(self.folder.iterdir()), [self.scratch])
+
+    def test_closed_streams(self):
+        target = self.folder / "shot.png"
+        done = subprocess.run(
+            ["/bin/sh", "-c", 'exec "$@" <&- >&- 2>&-', "sh",
+             str(pathlib.Path(PROGRAMS[0], "pandrel-view")), "-o", str(target),
+             str(EXAMPLES / "hello.G")],
+            timeout=SECONDS, check=False, env=self.server.environment(PROGRAMS))
+        self.assertEqual(done.returncode, 0)
+        self.assertTrue(target.is_file())
+
     def test_being_killed(self):
         # To reload it keeps its files for as long as it runs.
         for options in ([], ["--watch"]):
