@@ -115,6 +115,12 @@ class Folders(PortTest):
             self.port(*options, source / "weather.G")
             self.assertEqual(snapshot(source), before, options)
 
+    def test_draws_labels_as_bold_as_the_editor_did(self):
+        self.port(EXAMPLES / "weather.G")
+        lines = (self.app / "Weather.ad").read_text().splitlines()
+        for label in ("stationList_title", "intervalSlider_label", "batteryGauge_label"):
+            self.assertIn(f"*{label}.renderTable: bold", lines)
+
     def test_takes_bitmaps_along(self):
         self.port("-Dicons", EXAMPLES / "weather.G")
         named = [line.split('"')[1] for line in (self.app / "weather.uil").read_text().splitlines()
