@@ -148,6 +148,26 @@ TEST_F(ConversionTest, LetsTheModuleCallNothingBeforeItsTurn) {
   EXPECT_EQ(model.module.find("second()"), std::string::npos);
 }
 
+TEST_F(ConversionTest, SetsTheTextOfAPaneThatScrolls) {
+  const Model model = ConvertText(
+      kWindow +
+      Object("button", "go", "area", ":label \"Go\" :label-type :string :menu nil",
+             Action("win go", "Notify", "win pane", ":user_defined", "SetValue \"new\"")) +
+      Object("text-pane", "pane", "win"));
+  const Connection& connection = Only(model);
+  EXPECT_EQ(connection.procedure, "SetValue");
+  EXPECT_NE(model.module.find("\n" + connection.procedure_widget + ":XmText{"), std::string::npos);
+}
+
+TEST_F(ConversionTest, NamesATargetThatIsNotThere) {
+  const Model model = ConvertText(
+      kWindow + Object("button", "go", "area", ":label \"Go\" :label-type :string :menu nil",
+                       Action("win go", "Notify", "win gone", ":user_defined", "Disable")));
+  EXPECT_EQ(Only(model).fate, ConnectionFate::kLost);
+  EXPECT_EQ(Only(model).reason, "nothing is named win / gone");
+  EXPECT_EQ(model.module.find("gone"), std::string::npos);
+}
+
 TEST_F(ConversionTest, LosesNothingWithoutAReason) {
   const Model model =
       ConvertText(kWindow +
