@@ -295,6 +295,16 @@ TEST_F(ConversionTest, BringsBackAGroupBesideAPopupMenu) {
             std::string::npos);
 }
 
+TEST_F(ConversionTest, MakesSlidersHighEnoughForTheirNumbers) {
+  const std::string rest = ":orientation :horizontal :min-value 0 :max-value 9 :show-value ";
+  EXPECT_NE(ConvertText(kWindow + Object("slider", "s", "area", rest + "t"))
+                .module.find("XmNheight = 26;"),
+            std::string::npos);
+  EXPECT_EQ(ConvertText(kWindow + Object("slider", "s", "area", rest + "nil"))
+                .module.find("XmNheight = 26;"),
+            std::string::npos);
+}
+
 TEST_F(ConversionTest, NamesTheWidgetThatAnArgumentMeans) {
   const Model model = ConvertText(
       kWindow + Object("button", "Go", "area", ":label \"Go\" :label-type :string :menu nil") +
