@@ -64,6 +64,18 @@ void KeepOrder(Session& session) {
                    });
 }
 
+// Calls of the module for what has no widget would do nothing. They leave it, and are lost.
+void LeaveOutDeadCalls(Session& session) {
+  const auto is_dead = [&](const Link& link) {
+    const Connection& connection = session.model.connections[link.connection];
+    return !CallsFunction(connection) && !WhyNotPredefined(session, connection).empty();
+  };
+  for (const Link& link : session.links) {
+    if (is_dead(link)) session.left_out.insert(link.callback);
+  }
+  std::erase_if(session.links, is_dead);
+}
+
 void SettleCall(const Session& session, Connection& connection) {
   if (!connection.function.empty()) {
     connection.call = connection.function + "()";
@@ -105,6 +117,7 @@ void Settle(Session& session, int index) {
 
 void Connect(Session& session) {
   session.reasons.assign(session.model.connections.size(), "");
+  LeaveOutDeadCalls(session);
   std::set<int> in_module;
   for (const Link& link : session.links) in_module.insert(link.connection);
   for (std::size_t i = 0; i < session.model.connections.size(); ++i) {

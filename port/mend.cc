@@ -2,6 +2,7 @@
 #include "port/mend.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <map>
 #include <string_view>
 
@@ -70,6 +71,25 @@ void SelectItems(Widg* list, const PortObject& object) {
   if (count == 0) return;
   AddResource(list, "XmNselectedItems", Keep("string_table(" + selected + ")"));
   AddResource(list, "XmNselectedItemCount", Keep(std::to_string(count)));
+}
+
+// ---- Sliders ----
+
+// The number stood in front of OPEN LOOK's slider and stands over Motif's, which shows as much of
+// it as its height leaves room for.
+void MakeRoomForTheNumber(Session& session, Widg* scale, const PortObject& object) {
+  // Real files have rows of sliders 26 pixels apart.
+  constexpr int kBar = 12;
+  constexpr int kBarAndNumber = 26;
+  const char* height = GetResourceValue(scale, "XmNheight");
+  if (std::string_view(GetResourceValue(scale, "XmNshowValue")) != "true" ||
+      std::string_view(GetResourceValue(scale, "XmNorientation")) != "XmHORIZONTAL" ||
+      std::atoi(height) >= kBarAndNumber) {
+    return;
+  }
+  AddResource(scale, "XmNheight", Keep(std::to_string(kBarAndNumber)));
+  AddResource(scale, "XmNscaleHeight", Keep(std::to_string(kBar)));
+  Note(session, "slider " + object.name + " is now high enough for its number");
 }
 
 // ---- Drop targets ----
@@ -287,8 +307,9 @@ void MendTree(Session& session) {
     const PortObject& object = model.objects[i];
     if (object.type == GROUP) BringBackGroup(session, index);
     if (object.type == DROP_TARGET) ShowDropTarget(session, index);
-    if (object.type != SCROLLING_LIST) continue;
+    if (object.type != SCROLLING_LIST && object.type != SLIDER) continue;
     for (Widg* widg : OwnWidgets(session, index)) {
+      if (IsClass(widg, "XmScale")) MakeRoomForTheNumber(session, widg, object);
       if (!IsClass(widg, "XmList")) continue;
       TurnItems(session, widg, object);
       SelectItems(widg, object);

@@ -129,7 +129,9 @@ std::string MessagesOf(const Model& model) {
 PortResult PortInterface(const Job& job) {
   std::error_code error;
   if (!fs::is_regular_file(job.input, error)) {
-    return Failure(PortStatus::kFailed, job.input.string() + ": no such file");
+    const char* reason =
+        fs::is_directory(job.input, error) ? ": a folder needs -r" : ": no such file";
+    return Failure(PortStatus::kFailed, job.input.string() + reason);
   }
   if (!job.templates.empty() && !fs::is_directory(job.templates, error)) {
     return Failure(PortStatus::kUsage, job.templates.string() + ": no such folder of templates");

@@ -41,7 +41,7 @@ struct Session {
   std::vector<Link> links;
   std::vector<PlannedSource> sources;
   std::unordered_map<std::string, std::string> procedures;  // as written -> as mended
-  std::set<const Callback*> left_out;  // of the module, since connections.c makes the call
+  std::set<const Callback*> left_out;  // of the module: connections.c makes the call, or nobody
   std::vector<std::string> reasons;    // beside model.connections: why one is lost, so far
   std::vector<Widg*> widgets;          // all of the tree, parents first
   std::unordered_map<const Widg*, int> object_of;          // for each of them; -1 for none

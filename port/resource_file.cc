@@ -58,6 +58,14 @@ void AddMessage(const PortObject& object, Resources& resources) {
   if (label && object.Is(LABEL_BOLD, T)) resources.Add(label->name, "renderTable", "bold");
 }
 
+// Labels beside fields and settings lie in row-columns, for which compact.ad has a line. These do
+// not.
+void AddLabels(const PortObject& object, Resources& resources) {
+  for (const PortWidget& widget : object.widgets) {
+    if (widget.class_name == "XmLabel") resources.Add(widget.name, "renderTable", "bold");
+  }
+}
+
 // A pinned dialog stays when one of its buttons is pressed.
 void AddDialog(const Model& model, int index, Resources& resources) {
   if (!model.objects[index].Is(PINNED, T)) return;
@@ -78,6 +86,10 @@ std::string ResourceFile(const Model& model, const Templates& templates) {
       case SLIDER:
       case GAUGE:
         AddScale(object, resources);
+        AddLabels(object, resources);
+        break;
+      case SCROLLING_LIST:
+        AddLabels(object, resources);
         break;
       case TEXT_FIELD:
         AddField(object, resources);

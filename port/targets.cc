@@ -68,6 +68,14 @@ const Widg* LabelWidget(const Session& session, int object, const Widg* widg) {
   return widg;
 }
 
+// The text in a pane that scrolls, else the widget itself.
+const Widg* ValueWidget(const Session& session, int object, const Widg* widg) {
+  for (const Widg* companion : WidgetsOf(session, object)) {
+    if (IsClass(companion, "XmText") && IsInModule(companion)) return companion;
+  }
+  return widg;
+}
+
 }  // namespace
 
 std::string Call::Text() const {
@@ -102,6 +110,7 @@ std::string WhyNotPredefined(const Session& session, const Connection& connectio
   if (connection.to.empty()) return "the action has no target";
   if (connection.to_object < 0) return "nothing is named " + PathText(connection.to);
   if (!TargetWidget(session, connection)) {
+    if (!connection.to_item.empty()) return "nothing is named " + PathText(connection.to);
     return session.model.objects[connection.to_object].name + " has no widget";
   }
   return "";
@@ -122,8 +131,11 @@ Call PredefinedCall(const Session& session, const Connection& connection) {
     case Subject::kText:
       break;
   }
-  const bool label = row->action == "SetLabel" && connection.to_item.empty();
-  const Widg* subject = label ? LabelWidget(session, connection.to_object, target) : target;
+  const bool whole = connection.to_item.empty();
+  const bool label = row->action == "SetLabel" && whole;
+  const Widg* subject = target;
+  if (label) subject = LabelWidget(session, connection.to_object, target);
+  if (whole && !label) subject = ValueWidget(session, connection.to_object, target);
   const std::string text = connection.arguments.empty() ? "" : connection.arguments[0];
   // A dialog's title is its shell's.
   if (label && IsWindowType(object.type)) subject = OwnWidgets(session, connection.to_object)[0];

@@ -146,12 +146,17 @@ class Workers {
 
 // ---- The programs ----
 
-// A folder for each, named after its file; of two that would have one folder the later gets a
-// number.
+// A folder for each, named after its file. Its name gets a number where an earlier program or a
+// folder of the tree has it: there the programs of that folder go.
 std::vector<Program> MakePrograms(const fs::path& tree) {
   std::vector<Program> programs;
+  const std::vector<fs::path> inputs = FindPrograms(tree);
   std::set<std::string> used;
-  for (const fs::path& input : FindPrograms(tree)) {
+  for (const fs::path& input : inputs) {
+    fs::path above = input.lexically_relative(tree).parent_path();
+    for (; !above.empty(); above = above.parent_path()) used.insert(above.string());
+  }
+  for (const fs::path& input : inputs) {
     fs::path folder = input.lexically_relative(tree).replace_extension();
     const std::string plain = folder.string();
     for (int number = 2; !used.insert(folder.string()).second; ++number) {

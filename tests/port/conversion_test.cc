@@ -148,6 +148,26 @@ TEST_F(ConversionTest, LetsTheModuleCallNothingBeforeItsTurn) {
   EXPECT_EQ(model.module.find("second()"), std::string::npos);
 }
 
+TEST_F(ConversionTest, SetsTheTextOfAPaneThatScrolls) {
+  const Model model = ConvertText(
+      kWindow +
+      Object("button", "go", "area", ":label \"Go\" :label-type :string :menu nil",
+             Action("win go", "Notify", "win pane", ":user_defined", "SetValue \"new\"")) +
+      Object("text-pane", "pane", "win"));
+  const Connection& connection = Only(model);
+  EXPECT_EQ(connection.procedure, "SetValue");
+  EXPECT_NE(model.module.find("\n" + connection.procedure_widget + ":XmText{"), std::string::npos);
+}
+
+TEST_F(ConversionTest, NamesATargetThatIsNotThere) {
+  const Model model = ConvertText(
+      kWindow + Object("button", "go", "area", ":label \"Go\" :label-type :string :menu nil",
+                       Action("win go", "Notify", "win gone", ":user_defined", "Disable")));
+  EXPECT_EQ(Only(model).fate, ConnectionFate::kLost);
+  EXPECT_EQ(Only(model).reason, "nothing is named win / gone");
+  EXPECT_EQ(model.module.find("gone"), std::string::npos);
+}
+
 TEST_F(ConversionTest, LosesNothingWithoutAReason) {
   const Model model =
       ConvertText(kWindow +
@@ -272,6 +292,16 @@ TEST_F(ConversionTest, BringsBackAGroupBesideAPopupMenu) {
       "( :type :group :name pair :x 10 :y 10 :group-type :row :members (go) )\n");
   const std::string area = model.module.substr(model.module.find("\narea:XmBulletinBoard"));
   EXPECT_NE(area.substr(0, area.find("arguments")).find("XmBulletinBoard pair;"),
+            std::string::npos);
+}
+
+TEST_F(ConversionTest, MakesSlidersHighEnoughForTheirNumbers) {
+  const std::string rest = ":orientation :horizontal :min-value 0 :max-value 9 :show-value ";
+  EXPECT_NE(ConvertText(kWindow + Object("slider", "s", "area", rest + "t"))
+                .module.find("XmNheight = 26;"),
+            std::string::npos);
+  EXPECT_EQ(ConvertText(kWindow + Object("slider", "s", "area", rest + "nil"))
+                .module.find("XmNheight = 26;"),
             std::string::npos);
 }
 

@@ -105,6 +105,16 @@ class Hostile(unittest.TestCase):
             control(i, '"x"', name, "CallFunction") for i, name in enumerate(names)]))
         self.check()
 
+    def test_names_that_libraries_call(self):
+        self.port(interface('"Names"', [
+            control(i, '"x"', name, "CallFunction")
+            for i, name in enumerate(["dlopen", "uselocale", "XftFontOpen"])]))
+        self.check()
+        # What the program exports would be called in place of the library's own.
+        found = subprocess.run(["nm", "-D", "--defined-only", self.app / "evil"], text=True,
+                               capture_output=True, check=True).stdout
+        self.assertEqual(re.findall(r" T (\w+)", found), [])
+
     def test_code(self):
         self.port(interface('"Code"', [
             control(i, '"x"', quoted(code), "ExecuteCode") for i, code in enumerate(CODES)]))

@@ -66,6 +66,7 @@ class Arguments(PortTest):
         self.port(bad, status=1)
         self.assertFalse(self.app.exists())
         self.port(self.scratch / "missing.G", status=1)
+        self.assertIn(": a folder needs -r", self.port(EXAMPLES, status=1).stderr)
         self.assert_nothing_beside()
 
     def test_ends_with_the_totals(self):
@@ -113,6 +114,12 @@ class Folders(PortTest):
         for options in ([], ["-Dicons"], [f"-D{source}/icons"], ["-D../source/icons"]):
             self.port(*options, source / "weather.G")
             self.assertEqual(snapshot(source), before, options)
+
+    def test_draws_labels_as_bold_as_the_editor_did(self):
+        self.port(EXAMPLES / "weather.G")
+        lines = (self.app / "Weather.ad").read_text().splitlines()
+        for label in ("stationList_title", "intervalSlider_label", "batteryGauge_label"):
+            self.assertIn(f"*{label}.renderTable: bold", lines)
 
     def test_takes_bitmaps_along(self):
         self.port("-Dicons", EXAMPLES / "weather.G")
@@ -228,6 +235,17 @@ class Trees(PortTest):
         index = (self.app / "index.html").read_text()
         self.assertIn('href="library/library/report.html"', index)
         self.assertEqual(snapshot(tree), before)
+
+    def test_a_program_beside_a_folder_of_its_name(self):
+        tree = self.scratch / "tree"
+        for copy in ("tools.G", "tools/hello.G", "tools/hello/deep/hello.G"):
+            (tree / copy).parent.mkdir(parents=True, exist_ok=True)
+            shutil.copy(EXAMPLES / "hello.G", tree / copy)
+        for _ in range(2):
+            done = self.run_port("-r", "-o", self.app, tree)
+            self.assertEqual(done.returncode, 0, done.stderr)
+        programs = {str(file.parent.relative_to(self.app)) for file in self.app.rglob("main.c")}
+        self.assertEqual(programs, {"tools-2", "tools/hello-2", "tools/hello/deep/hello"})
 
     def test_can_be_repeated(self):
         for _ in range(2):
