@@ -44,11 +44,11 @@ int main(int argc, char** argv) {
       port::ParseOptions(std::vector<std::string_view>(argv + 1, argv + argc));
   switch (options.action) {
     case port::Options::Action::kHelp:
-      std::cout << port::HelpText();
-      return 0;
+      std::cout << port::HelpText() << std::flush;
+      return std::cout ? 0 : 1;
     case port::Options::Action::kVersion:
-      std::cout << kProgram << " " << PANDREL_VERSION << "\n";
-      return 0;
+      std::cout << kProgram << " " << PANDREL_VERSION << "\n" << std::flush;
+      return std::cout ? 0 : 1;
     case port::Options::Action::kUsageError:
       std::cerr << kProgram << ": " << options.error << "\nTry " << kProgram << " --help\n";
       return 2;

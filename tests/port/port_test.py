@@ -8,11 +8,12 @@ usage: port_test.py BUILD-FOLDERS [unittest arguments]
 import os
 import pathlib
 import shutil
+import subprocess
 import sys
 import tempfile
 import unittest
 
-from ports import EXAMPLES, ROOT, run_port
+from ports import EXAMPLES, ROOT, find, run_port
 
 HERE = pathlib.Path(__file__).resolve().parent
 PROGRAMS = []
@@ -47,6 +48,12 @@ class Arguments(PortTest):
         self.assertIn("Usage: pandrel-port", self.run_port("--help").stdout)
         version = (ROOT / "VERSION").read_text().strip()
         self.assertEqual(self.run_port("--version").stdout, f"pandrel-port {version}\n")
+
+    def test_what_cannot_be_said_is_status_1(self):
+        for argument in "--help", "--version":
+            with open("/dev/full", "w") as full:
+                done = subprocess.run([find(PROGRAMS, "pandrel-port"), argument], stdout=full, check=False)
+                self.assertEqual(done.returncode, 1, argument)
 
     def test_wrong_usage_is_status_2(self):
         for arguments in ([], ["--unknown", "x.G"], ["a.G", "b.G"], ["-r", "."], ["-o"]):
