@@ -3,10 +3,8 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cstdint>
 #include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <string_view>
 
@@ -15,6 +13,7 @@
 #include "gil/version.h"
 #include "gil/words.h"
 #include "osi/fatal.h"
+#include "text/uil_text.h"
 
 Value* yylval = nullptr;
 
@@ -43,6 +42,7 @@ enum CharClass : uint8_t {
   kOfIdentifier = 4,  // what may follow the first letter of an identifier
   kOfKeyword = 8,     // what may follow the colon of a keyword
   kDash = 16,
+  kBlank = 32,
 };
 
 constexpr std::array<uint8_t, 256> kClasses = [] {
@@ -50,6 +50,7 @@ constexpr std::array<uint8_t, 256> kClasses = [] {
   for (int c = 'a'; c <= 'z'; ++c) classes[c] = kLetter | kOfIdentifier | kOfKeyword;
   for (int c = 'A'; c <= 'Z'; ++c) classes[c] = kLetter | kOfIdentifier;
   for (int c = '0'; c <= '9'; ++c) classes[c] = kDigit | kOfIdentifier;
+  classes[' '] = classes['\t'] = kBlank;
   classes['_'] = kOfIdentifier | kOfKeyword;
   classes['.'] = kOfIdentifier;
   classes['-'] = kOfKeyword | kDash;
@@ -102,16 +103,16 @@ const char* Skip(const char* from, CharClass wanted) {
 
 // Blanks, tabs and newlines.
 void SkipBlanks() {
-  for (const char* c = input.cursor;; ++c) {
-    if (*c == ' ' || *c == '\t') continue;
-    if (*c == '\n') {
+  for (;;) {
+    input.cursor = Skip(input.cursor, kBlank);
+    if (*input.cursor == '\n') {
+      ++input.cursor;
       ++yylineno;
-      continue;
+    } else if (input.cursor != input.end || input.at_end) {
+      return;
+    } else {
+      Refill();
     }
-    input.cursor = c;
-    if (c != input.end || input.at_end) return;
-    Refill();
-    c = input.cursor - 1;
   }
 }
 
@@ -176,12 +177,8 @@ int32_t ScanIdentifier() {
 
 int32_t ScanInteger(const char* first_digit) {
   Accept(Skip(first_digit, kDigit));
-  // As in atoi, a second "-" ends the number, which is then 0.
-  int32_t number = 0;
-  if (std::from_chars(yytext, yytext + yyleng, number).ec != std::errc()) {
-    number = static_cast<int32_t>(std::strtol(yytext, nullptr, 10));
-  }
-  yylval = intValue(number);
+  // A second "-" ends the number, which is then 0.
+  yylval = intValue(ReadInt({yytext, yyleng}));
   return INTEGER_VALUE;
 }
 

@@ -36,9 +36,14 @@ char* IntToString(int32_t number) {
   return text;
 }
 
-int32_t StringToInt(const char* text) {
-  return text ? static_cast<int32_t>(std::strtol(text, nullptr, 10)) : 0;
+int32_t ReadInt(std::string_view text) {
+  int32_t number = 0;
+  const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (result.ec == std::errc()) return number;
+  return static_cast<int32_t>(std::strtol(text.data(), nullptr, 10));
 }
+
+int32_t StringToInt(const char* text) { return text ? ReadInt(text) : 0; }
 
 char* IntToQuotedString(int32_t number) {
   return JoinTexts("\"", std::to_string(number).c_str(), "\"", "Out of memory in IntToString");

@@ -8,12 +8,16 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 // The decimal text of `number`. (The text of OsiIntToStr is not in the arena: its caller frees it.)
 char* IntToString(int32_t number);
 
 // The number at the start of `text` as atoi reads it: 0 when there is none.
 int32_t StringToInt(const char* text);
+
+// The same for a text without a NUL, which a byte follows that is no digit.
+int32_t ReadInt(std::string_view text);
 
 // The decimal text of `number` between double quotes: a UIL string literal.
 char* IntToQuotedString(int32_t number);
