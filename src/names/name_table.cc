@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstring>
 #include <string>
 
 #include "osi/numbers.h"
@@ -55,22 +56,26 @@ static int32_t* UntriedNumber(NameTable* table, const char* base) {
   return &untried->second.number;
 }
 
+// Enters a free name and revives a deleted one; kNoName for one that is in use.
+static NameHandle EnterUnlessInUse(NameTable* table, const char* name) {
+  const NameHandle found = NameLookup(table, name);
+  if (found == kNoName) return NameEnter(table, name);
+  return EntryOf(table, found).refcount < 1 ? Revive(table, found) : kNoName;
+}
+
 NameHandle NameCreate(NameTable* table, const char* name) {
-  std::string text = name ? name : "";
-  NameHandle found = NameLookup(table, text.c_str());
-  std::string base;
-  int32_t* number = nullptr;
-  while (found != kNoName) {
-    if (EntryOf(table, found).refcount < 1) return Revive(table, found);
-    if (!number) {
-      OsiRemoveEndDigits(text.data());
-      base = text.c_str();
-      number = UntriedNumber(table, base.c_str());
-    }
-    text = base + std::to_string((*number)++);
-    found = NameLookup(table, text.c_str());
+  if (!name) name = "";
+  NameHandle handle = EnterUnlessInUse(table, name);
+  if (handle != kNoName) return handle;
+  std::string base = name;
+  OsiRemoveEndDigits(base.data());
+  base.resize(std::strlen(base.c_str()));
+  int32_t* number = UntriedNumber(table, base.c_str());
+  while (handle == kNoName) {
+    const std::string numbered = base + std::to_string((*number)++);
+    handle = EnterUnlessInUse(table, numbered.c_str());
   }
-  return NameEnter(table, text.c_str());
+  return handle;
 }
 
 char* NameGet(const NameTable* table, NameHandle handle) {
