@@ -14,7 +14,7 @@ file(WRITE ${OUTPUT}.gperf "%language=C++
 %define lookup-function-name Find
 %define slot-name text
 %readonly-tables
-%compare-strncmp
+%compare-lengths
 %includes
 %{
 #include \"gil/tokens.h\"
