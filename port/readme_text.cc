@@ -22,6 +22,11 @@ std::string ReadmeText(const Model& model, const Templates& templates) {
     lost.push_back(Data("Not connected: " +
                         OneLine(OriginText(model, connection) + ": " + connection.reason)));
   }
+  for (const PortObject& object : model.objects) {
+    if (object.fate != ObjectFate::kLost) continue;
+    lost.push_back(Data(
+        OneLine("Not shown: " + TypeName(object.type) + " " + object.name + ": " + object.reason)));
+  }
   for (const std::string& bitmap : model.missing_bitmaps) {
     lost.push_back(Data("Missing bitmap: " + OneLine(bitmap)));
   }

@@ -122,6 +122,17 @@ class Folders(PortTest):
             self.port(*options, source / "weather.G")
             self.assertEqual(snapshot(source), before, options)
 
+    def test_the_readme_tells_what_is_left_to_do(self):
+        lost = self.scratch / "lost.G"
+        lost.write_text(";GIL-3\n((:type :base-window :name w :owner nil)"
+                        "(:type :stack :name pages :owner w"
+                        " :actions ((:from (nil) :when (Notify) :to (nobody)"
+                        " :function_type Show :arg_type () :action ()))))\n")
+        self.port(lost)
+        left = (self.app / "README").read_text().split("What is left to do:\n")[1].splitlines()
+        self.assertIn("    Not shown: stack pages: Motif has no counterpart", left)
+        self.assertTrue([line for line in left if line.startswith("    Not connected: ")], left)
+
     def test_draws_labels_as_bold_as_the_editor_did(self):
         self.port(EXAMPLES / "weather.G")
         lines = (self.app / "Weather.ad").read_text().splitlines()
