@@ -17,7 +17,7 @@ import tempfile
 import time
 import unittest
 
-from ports import CORPUS, EXAMPLES, build, close_window, run_port
+from ports import CORPUS, EXAMPLES, build, close_window, run_port, visible_windows
 
 from harness import SECONDS, Server
 
@@ -122,7 +122,7 @@ class Corpus(unittest.TestCase):
         process = self.start(server, program)
         end = time.monotonic() + SECONDS
         while process.poll() is None and time.monotonic() < end:
-            for window in server.xdotool("search", "--onlyvisible", "--maxdepth", 1, "--name", ""):
+            for window in visible_windows(server):
                 close_window(server.display, window)
             time.sleep(0.05)
         self.assertIsNotNone(process.poll(), "still runs with all windows closed")

@@ -4,6 +4,7 @@ import ctypes
 import pathlib
 import subprocess
 import sys
+import time
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
 sys.path.insert(0, str(ROOT / "tests" / "view"))
@@ -47,9 +48,14 @@ class ClientMessage(ctypes.Structure):
                 ("data", ctypes.c_long * 5), ("rest", ctypes.c_long * 12)]
 
 
+# Xlib ends the program at an error unless a function takes it.
+ignore_error = ctypes.CFUNCTYPE(ctypes.c_int, ctypes.c_void_p, ctypes.c_void_p)(lambda *_: 0)
+
+
 def close_window(display_name, window):
-    """Sends the window what a window manager sends for "close"."""
+    """Sends the window what a window manager sends for "close". The window may be gone by then."""
     xlib = ctypes.CDLL("libX11.so.6")
+    xlib.XSetErrorHandler(ignore_error)
     xlib.XOpenDisplay.restype = ctypes.c_void_p
     xlib.XInternAtom.restype = ctypes.c_ulong
     display = ctypes.c_void_p(xlib.XOpenDisplay(display_name.encode()))
@@ -59,6 +65,23 @@ def close_window(display_name, window):
     xlib.XSendEvent(display, ctypes.c_ulong(int(window)), 0, ctypes.c_long(0),
                     ctypes.byref(event))
     xlib.XCloseDisplay(display)
+
+
+def visible_windows(server):
+    """Menus, which have no name, too."""
+    return server.xdotool("search", "--onlyvisible", "--maxdepth", 1, "--name", "")
+
+
+def choose_first_item(server, program, title, button, pause=0.3):
+    """Posts a button's menu by a click and clicks on its first item. A busy program needs a longer
+    pause until the menu, which is there, takes the click."""
+    before = visible_windows(server)
+    program.click(title, button)
+    end = time.monotonic() + SECONDS
+    while visible_windows(server) == before and time.monotonic() < end:
+        time.sleep(0.1)
+    time.sleep(pause)
+    server.xdotool("mousemove_relative", 0, 20, "click", 1)
 
 
 class Port:
