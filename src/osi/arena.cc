@@ -2,8 +2,8 @@
 #include "osi/arena.h"
 
 #include <sys/mman.h>
-#include <unistd.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
@@ -12,14 +12,14 @@
 
 namespace {
 
-// An ordinary file needs the first chunk or two. A large file uses whole chunks, so ask the kernel
-// for their pages at once: one by one they take 13 % of the time of a 4 MB file.
+// An ordinary file needs the first chunk or two. A large file uses whole chunks of the usual size
+// of a huge page: ordinary pages, each at its first use, take a sixth of the time of a 4 MB file.
 #ifdef PANDREL_SANITIZED
 constexpr std::size_t kFirstChunkSize = 0;
 constexpr std::size_t kLargeChunkSize = 0;
 #else
 constexpr std::size_t kFirstChunkSize = 256 * 1024;
-constexpr std::size_t kLargeChunkSize = 1024 * 1024;
+constexpr std::size_t kLargeChunkSize = 2 * 1024 * 1024;
 #endif
 constexpr std::size_t kAlignment = alignof(void*);
 
@@ -47,12 +47,15 @@ bool CountRequest() {
   return true;
 }
 
-// Asks the kernel for the whole pages of the block. If it fails, each page comes when it is
-// touched.
-void Populate(char* block, std::size_t size) {
-  static const auto page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
-  const std::size_t before = (page - reinterpret_cast<std::uintptr_t>(block) % page) % page;
-  if (size > before) madvise(block + before, (size - before) / page * page, MADV_POPULATE_WRITE);
+// Memory for a chunk; a huge page, where the kernel has one, for a large one. Asks for all of its
+// pages at once. If the kernel refuses, each page comes when it is touched.
+void* AllocateChunk(std::size_t size) {
+  if (size != kLargeChunkSize) return std::malloc(size);
+  void* chunk = std::aligned_alloc(kLargeChunkSize, kLargeChunkSize);
+  if (!chunk) return nullptr;
+  madvise(chunk, kLargeChunkSize, MADV_HUGEPAGE);
+  madvise(chunk, kLargeChunkSize, MADV_POPULATE_WRITE);
+  return chunk;
 }
 
 // Makes sure that `size` bytes are free. Gives up the rest of a chunk that has too few.
@@ -60,15 +63,14 @@ bool MakeRoom(std::size_t size) {
   if (!CountRequest()) return false;
   if (size <= static_cast<std::size_t>(arena.end - arena.start)) return true;
   const std::size_t usual = arena.last ? kLargeChunkSize : kFirstChunkSize;
-  const std::size_t room = size > usual ? size : usual;
-  if (room > SIZE_MAX - sizeof(Chunk)) return false;
-  auto* chunk = static_cast<Chunk*>(std::malloc(sizeof(Chunk) + room));
+  if (size > SIZE_MAX - sizeof(Chunk)) return false;
+  const std::size_t needed = std::max(sizeof(Chunk) + size, usual);
+  auto* chunk = static_cast<Chunk*>(AllocateChunk(needed));
   if (!chunk) return false;
   chunk->previous = arena.last;
   arena.last = chunk;
   arena.start = reinterpret_cast<char*>(chunk + 1);
-  arena.end = arena.start + room;
-  if (room == kLargeChunkSize) Populate(arena.start, room);
+  arena.end = reinterpret_cast<char*>(chunk) + needed;
   return true;
 }
 
