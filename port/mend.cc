@@ -2,7 +2,6 @@
 #include "port/mend.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <map>
 #include <string_view>
 
@@ -81,10 +80,9 @@ void MakeRoomForTheNumber(Session& session, Widg* scale, const PortObject& objec
   // Real files have rows of sliders 26 pixels apart.
   constexpr int kBar = 12;
   constexpr int kBarAndNumber = 26;
-  const char* height = GetResourceValue(scale, "XmNheight");
   if (std::string_view(GetResourceValue(scale, "XmNshowValue")) != "true" ||
       std::string_view(GetResourceValue(scale, "XmNorientation")) != "XmHORIZONTAL" ||
-      std::atoi(height) >= kBarAndNumber) {
+      GetResourceInt(scale, "XmNheight") >= kBarAndNumber) {
     return;
   }
   AddResource(scale, "XmNheight", Keep(std::to_string(kBarAndNumber)));

@@ -104,7 +104,7 @@ void RemoveResource(Widg* widg, const char* name);
 // Moves a resource that is not empty from one widget to another.
 void MoveResource(Widg* from, const char* name, Widg* to);
 
-// Empties the tree.
+// Empties the tree. What searches know of it goes with ResetKnownNames.
 void ResetTree();
 
 #endif

@@ -3,6 +3,7 @@
 
 #include "gil/object.h"
 #include "gil/parser.h"
+#include "gil/tokens.h"
 #include "unit/support/session_fixture.h"
 
 class OwnersTest : public SessionFixture {
@@ -137,7 +138,7 @@ TEST_F(OwnersTest, EmptyOwnerIsTheObjectWithoutAName) {
   Forest({":x 1", ":name q :owner P"});
   Obj* q = top->next;
   Value* owner = nullptr;
-  ASSERT_EQ(GetAttrValue(q, 372, &owner, 0), 1);
+  ASSERT_EQ(GetAttrValue(q, OWNER, &owner, 0), 1);
   owner->sval[0] = '\0';
   EXPECT_EQ(Run([] { top = resolveChildren(top); }).err, "");
   EXPECT_EQ(List(top), "?(q)");
