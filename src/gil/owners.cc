@@ -1,22 +1,21 @@
 // SPDX-License-Identifier: MIT
 // Owner resolution: from the parser's flat list to a forest.
 #include <cstdio>
-#include <string_view>
-#include <unordered_map>
 
 #include "gil/object.h"
 #include "gil/tokens.h"
-
-static std::string_view View(const char* text) { return text ? text : std::string_view(); }
+#include "osi/arena.h"
+#include "osi/by_text.h"
+#include "osi/strings.h"
 
 Obj* resolveChildren(Obj* objects) {
   // By name, the first object of the flat list that has it. The name of an object without one
   // counts as empty.
-  std::unordered_map<std::string_view, Obj*> by_name;
+  ByText<Obj*, ArenaMemory> by_name;
   for (Obj* obj = objects; obj; obj = obj->next) {
     obj->allNext = obj->next;
     obj->name = AttrText(obj->attrs, NAME);
-    by_name.emplace(View(obj->name), obj);
+    by_name.emplace(OsiView(obj->name), obj);
   }
 
   // The list is in reverse file order and every insertion is at the front, so all lists end up in

@@ -37,15 +37,15 @@ static char* NewText(const std::string& text, const char* out_of_memory) {
 }
 
 char* JustFilename(const char* path) {
-  return NewText(BareName(path ? path : ""), "Out of memory in JustFilename");
+  return NewText(BareName(OsiOrEmpty(path)), "Out of memory in JustFilename");
 }
 
 char* CreateXBMFilename(const char* path) {
-  return NewText(XbmName(path ? path : ""), "Out of memory in JustFilename");
+  return NewText(XbmName(OsiOrEmpty(path)), "Out of memory in JustFilename");
 }
 
 char* PixmapConvert(const char* file) {
-  return NewText("xbitmapfile(\"" + std::string(file ? file : "") + "\")",
+  return NewText("xbitmapfile(\"" + std::string(OsiView(file)) + "\")",
                  "Out of memory in PixmapConvert");
 }
 
@@ -105,7 +105,7 @@ static void Run(const std::string& command) {
 
 static void Convert(const std::string& glyph, const std::string& xbm) {
   const char* converter = OsiFileFindExeInPath("pbmtoxbm");
-  std::fprintf(stderr, "Osi output: %s\n", converter ? converter : "");
+  std::fprintf(stderr, "Osi output: %s\n", OsiOrEmpty(converter));
   if (verbose) {
     std::fputs("Glyph Filename encountered, converting to XBM file in current directory\n", stdout);
   }
@@ -115,7 +115,7 @@ static void Convert(const std::string& glyph, const std::string& xbm) {
 }
 
 char* ProcessGlyphFilename(const char* glyph) {
-  std::string copy = glyph ? glyph : "";
+  std::string copy(OsiView(glyph));
   std::string name = RemoveQuotes(copy.data());
   if (IsXbmFile(name.c_str())) return PixmapConvert(name.c_str());
 

@@ -24,15 +24,8 @@ static const char* const kReservedWords[] = {
 static NameTable instance_names;
 
 NameHandle NameLookup(const NameTable* table, const char* name) {
-  const auto found = table->index.find(name ? name : "");
+  const auto found = table->index.find(OsiView(name));
   return found == table->index.end() ? kNoName : found->second;
-}
-
-static NameHandle NameEnter(NameTable* table, const char* name) {
-  const auto handle = static_cast<NameHandle>(table->entries.size());
-  table->entries.push_back({OsiOwnedText(OsiStrdup(name)), 1});
-  table->index.emplace(table->entries.back().text.get(), handle);
-  return handle;
 }
 
 static NameEntry& EntryOf(NameTable* table, NameHandle handle) {
@@ -58,9 +51,14 @@ static int32_t* UntriedNumber(NameTable* table, const char* base) {
 
 // Enters a free name and revives a deleted one; kNoName for one that is in use.
 static NameHandle EnterUnlessInUse(NameTable* table, const char* name) {
-  const NameHandle found = NameLookup(table, name);
-  if (found == kNoName) return NameEnter(table, name);
-  return EntryOf(table, found).refcount < 1 ? Revive(table, found) : kNoName;
+  OsiOwnedText text(OsiStrdup(name));
+  const auto next = static_cast<NameHandle>(table->entries.size());
+  const auto [entry, is_free] = table->index.try_emplace(text.get(), next);
+  if (is_free) {
+    table->entries.push_back({std::move(text), 1});
+    return next;
+  }
+  return EntryOf(table, entry->second).refcount < 1 ? Revive(table, entry->second) : kNoName;
 }
 
 NameHandle NameCreate(NameTable* table, const char* name) {

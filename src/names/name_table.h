@@ -8,12 +8,9 @@
 #define PANDREL_NAMES_NAME_TABLE_H
 
 #include <cstdint>
-#include <functional>
-#include <string_view>
-#include <unordered_map>
-#include <utility>
 #include <vector>
 
+#include "osi/by_text.h"
 #include "osi/owned_text.h"
 
 using NameHandle = int32_t;
@@ -30,18 +27,13 @@ struct Untried {
   int32_t number = 1;
 };
 
-template <typename Mapped>
-using ByText =
-    std::unordered_map<std::string_view, Mapped, std::hash<std::string_view>, std::equal_to<>,
-                       OsiAllocator<std::pair<const std::string_view, Mapped>>>;
-
 struct NameTable {
   std::vector<NameEntry, OsiAllocator<NameEntry>> entries;  // by handle
   // Keys are views of the texts, hashed as they were entered. Holders change a text only when all
   // names are given out and the module is meant for the builder, so nobody looks for it again.
-  ByText<NameHandle> index;
+  ByText<NameHandle, OsiMemory> index;
   // Saves the tenth namesake ten look-ups. Cleared whenever a name is deleted.
-  ByText<Untried> untried;
+  ByText<Untried, OsiMemory> untried;
 };
 
 // Enters a unique form of `name` (null counts as empty) and returns its handle.

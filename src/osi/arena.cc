@@ -9,6 +9,7 @@
 #include <cstring>
 
 #include "osi/arena_testing.h"
+#include "osi/fatal.h"
 
 namespace {
 
@@ -100,6 +101,12 @@ char* ArenaText(const char* text, std::size_t length) {
   if (length > 0) std::memcpy(copy, text, length);
   copy[length] = '\0';
   return copy;
+}
+
+void* ArenaMemory::Allocate(std::size_t size) {
+  void* block = ArenaAlloc(size);
+  if (!block) Error("Out of memory in ArenaMemory");
+  return block;
 }
 
 void* TryRealloc(void* block, std::size_t size) {

@@ -31,7 +31,7 @@ int OsiStrncasecmp(const char* a, const char* b, int n) {
 char* OsiStrCaseStr(const char* hay, const char* needle) {
   if (!hay) return nullptr;
   char* upper_hay = OsiStrUpCase(hay);
-  char* upper_needle = OsiStrUpCase(needle ? needle : "");
+  char* upper_needle = OsiStrUpCase(OsiOrEmpty(needle));
   const char* found = OsiStrstr(upper_hay, upper_needle);
   const char* place = found ? hay + (found - upper_hay) : nullptr;
   OsiFree(upper_hay);

@@ -8,7 +8,7 @@
 #include "osi/strings.h"
 
 DIR* OsiOpenDir(const char* dir, const char* name) {
-  std::string path = dir ? dir : "";
+  std::string path = OsiOrEmpty(dir);
   path += '/';
   if (name) path += name;
   return opendir(path.c_str());

@@ -5,7 +5,7 @@
 
 #include "osi/strings.h"
 
-char* OsiGetEnv(const char* name) { return std::getenv(name ? name : ""); }
+char* OsiGetEnv(const char* name) { return std::getenv(OsiOrEmpty(name)); }
 
 int OsiSetEnv(const char* name, const char* value) {
   if (!name || !value) return -1;

@@ -63,7 +63,7 @@ char* OsiStrFixChars(const char* s, const OsiFixOptions* options, unsigned flags
   std::string result;
   if ((flags & kOsiFixPrefix) && options->prefix) result += options->prefix;
   std::size_t since_break = 0;
-  for (const char* p = s ? s : ""; *p; ++p) {
+  for (const char* p = OsiOrEmpty(s); *p; ++p) {
     if (break_every > 0 && since_break >= break_every) {
       if (options->break_text) result += options->break_text;
       since_break = 0;

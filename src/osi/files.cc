@@ -11,7 +11,7 @@
 #include "osi/strings.h"
 
 static bool Stat(const char* path, struct stat* status) {
-  return stat(path ? path : "", status) == 0;
+  return stat(OsiOrEmpty(path), status) == 0;
 }
 
 bool OsiFileExists(const char* path) {

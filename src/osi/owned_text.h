@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <memory>
 
+#include "osi/allocator.h"
 #include "osi/memory.h"
 
 struct OsiDeleter {
@@ -16,25 +17,13 @@ struct OsiDeleter {
 // Frees a text of OsiMalloc memory with its holder.
 using OsiOwnedText = std::unique_ptr<char, OsiDeleter>;
 
-// An allocator over OsiMalloc and OsiFree.
-template <typename T>
-struct OsiAllocator {
-  using value_type = T;
-
-  OsiAllocator() = default;
-  template <typename U>
-  explicit(false) OsiAllocator(const OsiAllocator<U>& /*other*/) {}
-
-  T* allocate(std::size_t count) {
-    // T may be a pointer, as in the buckets of a hash table.
-    return static_cast<T*>(OsiMalloc(count * sizeof(T)));  // NOLINT(bugprone-sizeof-expression)
-  }
-  void deallocate(T* block, std::size_t /*count*/) { OsiFree(block); }
-
-  template <typename U>
-  bool operator==(const OsiAllocator<U>& /*other*/) const {
-    return true;
-  }
+// OsiMalloc as the memory of an allocator.
+struct OsiMemory {
+  static void* Allocate(std::size_t size) { return OsiMalloc(size); }
+  static void Free(void* block) { OsiFree(block); }
 };
+
+template <typename T>
+using OsiAllocator = Allocator<T, OsiMemory>;
 
 #endif

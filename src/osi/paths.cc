@@ -18,7 +18,7 @@ using PathBuffer = char[2 * PATH_MAX];
 
 // Joins `dir` and `name` in the buffer; either may lie in it.
 static char* Join(const char* dir, const char* name, PathBuffer& buffer) {
-  std::string path = dir ? dir : "";
+  std::string path = OsiOrEmpty(dir);
   if (path.empty() || path.back() != '/') path += '/';
   if (name) path += name;
   std::snprintf(buffer, sizeof buffer, "%s", path.c_str());
@@ -48,7 +48,7 @@ char* OsiFileFindExeInPath(const char* name) {
 }
 
 void OsiFileComponents(const char* path, char** dir, char** file) {
-  const std::string whole = path ? path : "";
+  const std::string whole = OsiOrEmpty(path);
   std::size_t slash = whole.rfind('/');
   bool has_dir = slash != std::string::npos;
   if (dir) *dir = has_dir ? OsiStrdup(whole.substr(0, slash).c_str()) : OsiGetCwd();

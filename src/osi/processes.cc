@@ -13,7 +13,7 @@
 #include "osi/memory.h"
 #include "osi/strings.h"
 
-int OsiSystem(const char* command) { return std::system(command ? command : ""); }
+int OsiSystem(const char* command) { return std::system(OsiOrEmpty(command)); }
 
 pid_t OsiProcExec(const char* path, const char* arguments) {
   if (!path) path = "";
@@ -23,7 +23,7 @@ pid_t OsiProcExec(const char* path, const char* arguments) {
   }
   // Split before the fork, so that only execv can fail in the child.
   constexpr int kMaxWords = 24;
-  char* copy = OsiStrdup(arguments ? arguments : "");
+  char* copy = OsiStrdup(OsiOrEmpty(arguments));
   std::string program = path;
   char* list[1 + kMaxWords + 1] = {program.data()};
   char* rest = copy;

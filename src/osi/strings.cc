@@ -3,10 +3,8 @@
 
 #include "osi/memory.h"
 
-static const char* OrEmpty(const char* s) { return s ? s : ""; }
-
 int OsiStrncmp(const char* a, const char* b, std::size_t n) {
-  return std::strncmp(OrEmpty(a), OrEmpty(b), n);
+  return std::strncmp(OsiOrEmpty(a), OsiOrEmpty(b), n);
 }
 
 int OsiStrPcmp(const void* pa, const void* pb) {
@@ -22,19 +20,19 @@ char* OsiStrdup(const char* s) {
 }
 
 char* OsiStrcpy(char* dst, const char* src) {
-  return dst ? std::strcpy(dst, OrEmpty(src)) : nullptr;
+  return dst ? std::strcpy(dst, OsiOrEmpty(src)) : nullptr;
 }
 
 char* OsiStrncpy(char* dst, const char* src, std::size_t n) {
-  return dst ? std::strncpy(dst, OrEmpty(src), n) : nullptr;
+  return dst ? std::strncpy(dst, OsiOrEmpty(src), n) : nullptr;
 }
 
 char* OsiStrcat(char* dst, const char* src) {
-  return dst ? std::strcat(dst, OrEmpty(src)) : nullptr;
+  return dst ? std::strcat(dst, OsiOrEmpty(src)) : nullptr;
 }
 
 char* OsiStrncat(char* dst, const char* src, std::size_t n) {
-  return dst ? std::strncat(dst, OrEmpty(src), n) : nullptr;
+  return dst ? std::strncat(dst, OsiOrEmpty(src), n) : nullptr;
 }
 
 char* OsiStrchr(const char* s, int c) { return s ? const_cast<char*>(std::strchr(s, c)) : nullptr; }
@@ -44,7 +42,7 @@ char* OsiStrrchr(const char* s, int c) {
 }
 
 char* OsiStrstr(const char* s, const char* needle) {
-  return s ? const_cast<char*>(std::strstr(s, OrEmpty(needle))) : nullptr;
+  return s ? const_cast<char*>(std::strstr(s, OsiOrEmpty(needle))) : nullptr;
 }
 
 char* OsiStrAppend(char* s, const char* a, const char* b) {
@@ -53,16 +51,16 @@ char* OsiStrAppend(char* s, const char* a, const char* b) {
   std::size_t b_length = OsiStrlen(b);
   // Not OsiRealloc: `a` and `b` may be parts of `s`, so `s` must outlive the copying.
   auto* grown = static_cast<char*>(OsiMalloc(s_length + a_length + b_length + 1));
-  std::memcpy(grown, OrEmpty(s), s_length);
-  std::memcpy(grown + s_length, OrEmpty(a), a_length);
-  std::memcpy(grown + s_length + a_length, OrEmpty(b), b_length);
+  std::memcpy(grown, OsiOrEmpty(s), s_length);
+  std::memcpy(grown + s_length, OsiOrEmpty(a), a_length);
+  std::memcpy(grown + s_length + a_length, OsiOrEmpty(b), b_length);
   grown[s_length + a_length + b_length] = '\0';
   OsiFree(s);
   return grown;
 }
 
 char* OsiStrReplace(char* s, const char* text) {
-  text = OrEmpty(text);
+  text = OsiOrEmpty(text);
   std::size_t length = std::strlen(text);
   // A text inside `s` is never longer than `s`, so `s` does not move in that case.
   if (!s || std::strlen(s) < length) s = static_cast<char*>(OsiRealloc(s, length + 1));

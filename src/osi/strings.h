@@ -10,9 +10,18 @@
 
 #include <cstddef>
 #include <cstring>
+#include <string_view>
+
+// The string itself, the empty one for null.
+inline const char* OsiOrEmpty(const char* s) { return s ? s : ""; }
+
+// The text without its NUL; empty for null.
+inline std::string_view OsiView(const char* s) { return OsiOrEmpty(s); }
 
 // strcmp, with a null string equal to an empty one. The converter's only string comparison.
-inline int OsiStrcmp(const char* a, const char* b) { return std::strcmp(a ? a : "", b ? b : ""); }
+inline int OsiStrcmp(const char* a, const char* b) {
+  return std::strcmp(OsiOrEmpty(a), OsiOrEmpty(b));
+}
 
 // strncmp, with a null string equal to an empty one.
 int OsiStrncmp(const char* a, const char* b, std::size_t n);

@@ -5,12 +5,12 @@
 #include <cwchar>
 
 #include "osi/memory.h"
+#include "osi/strings.h"
 
-static const char* OrEmpty(const char* s) { return s ? s : ""; }
 static const wchar_t* OrEmpty(const wchar_t* w) { return w ? w : L""; }
 
 std::size_t OsiMbstowcs(wchar_t* dst, const char* s, std::size_t n) {
-  return std::mbstowcs(dst, OrEmpty(s), n);
+  return std::mbstowcs(dst, OsiOrEmpty(s), n);
 }
 
 std::size_t OsiWcstombs(char* dst, const wchar_t* w, std::size_t n) {

@@ -19,7 +19,7 @@ static int32_t serial = kFirstSerial;
 
 char* JoinTexts(const char* before, const char* text, const char* after,
                 const char* out_of_memory) {
-  const std::string_view parts[] = {before ? before : "", text ? text : "", after ? after : ""};
+  const std::string_view parts[] = {OsiView(before), OsiView(text), OsiView(after)};
   char* joined = ArenaTextBlock(parts[0].size() + parts[1].size() + parts[2].size() + 1);
   if (!joined) Error(out_of_memory);
   char* end = joined;

@@ -29,9 +29,6 @@ void Put(const Parts&... parts) {
   (text.append(std::string_view(parts)), ...);
 }
 
-// A text that may be missing.
-std::string_view Optional(const char* part) { return part ? part : ""; }
-
 bool IsWritten(const Widg* widg) { return OsiStrlen(widg->class_name) > 0; }
 
 // UIL has no shells. They stand in the module as comments: each of their lines begins with a mark,
@@ -44,7 +41,7 @@ bool OmitShells() { return !usezo && nocomments; }
 void GenProcedures() {
   char** procedures = nullptr;
   const std::size_t count = GetProcedures(&procedures);
-  for (std::size_t i = 0; i < count; ++i) Put("procedure ", Optional(procedures[i]), ";\n");
+  for (std::size_t i = 0; i < count; ++i) Put("procedure ", OsiView(procedures[i]), ";\n");
   Put("\n");
 }
 
@@ -65,7 +62,7 @@ void GenArguments(const Widg* widg, std::string_view mark) {
   for (const Resource* resource = widg->resources; resource; resource = resource->next) {
     // Motif has no such resource; it is how steps of the conversion pass on a glyph's file name.
     if (OsiStrcmp(resource->name, "XmNoriginalPixmapName") == 0) continue;
-    Put(mark, "\t\t", resource->name, " = ", Optional(resource->value), ";\n");
+    Put(mark, "\t\t", resource->name, " = ", OsiView(resource->value), ";\n");
   }
   Put(mark, "\t\t};\n");
 }
@@ -75,7 +72,7 @@ void GenArguments(const Widg* widg, std::string_view mark) {
 void GenProcedureList(const Callback* callbacks, std::string_view mark) {
   Put(mark, "\t\t", callbacks->callback_name, " = procedures {\n");
   for (const Callback* callback = callbacks; callback; callback = callback->next) {
-    Put(mark, "\t\t\t", Optional(callback->procedure), "(", Optional(callback->argument), ");\n");
+    Put(mark, "\t\t\t", OsiView(callback->procedure), "(", OsiView(callback->argument), ");\n");
   }
   Put(mark, "\t\t\t};\n", mark, "\n", mark, "};\n");
 }
@@ -91,8 +88,8 @@ void GenCallbacks(const Widg* widg, std::string_view mark) {
   if (callbacks->next) {
     GenProcedureList(callbacks, mark);
   } else {
-    Put(mark, "\t\t", callbacks->callback_name, " = procedure ", Optional(callbacks->procedure),
-        "(", Optional(callbacks->argument), ");\n", mark, "\t\t};\n");
+    Put(mark, "\t\t", callbacks->callback_name, " = procedure ", OsiView(callbacks->procedure), "(",
+        OsiView(callbacks->argument), ");\n", mark, "\t\t};\n");
   }
   Put(mark, "};\n\n");
 }

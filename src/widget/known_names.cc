@@ -3,11 +3,12 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <string>
-#include <unordered_map>
 #include <vector>
 
+#include "osi/arena.h"
+#include "osi/by_text.h"
 #include "osi/strings.h"
+#include "text/uil_text.h"
 #include "widget/plain_search.h"
 #include "widget/tree.h"
 
@@ -19,14 +20,14 @@ Widg unknown;  // in the place of a widget: only a search can tell
 struct Answer {
   Widg* top = nullptr;
   Widg* below = nullptr;
+  Widg* with_child = nullptr;  // the first of the name that has a child
+  uint32_t walk = 0;           // the number of the walk that found it
 };
 
-// The table has copies of names, since their texts change in place.
 struct KnownNames {
-  std::unordered_map<std::string, Answer> answers;  // a name that is missing is not in the tree
-  // The first widget of each name that has a child; good until something moves.
-  std::unordered_map<std::string, Widg*> with_child;
-  bool with_child_is_known = false;
+  // Of each name that was met or asked for. Keys are copies, since texts change in place.
+  ByText<Answer, ArenaMemory> answers;
+  uint32_t walk = 0;           // the walk that found all with_child; 0 when something moved since
   std::vector<Widg*> windows;  // that were learned, in their order; those that left are passed over
   // From here on the windows of the top level bring names that have not been learned.
   Widg* unlearned = nullptr;
@@ -35,19 +36,22 @@ struct KnownNames {
   std::size_t forgotten = 0;  // and to forget them
   bool ended = false;
   int claims = 0;
-  std::string key;  // of the last look-up, so that its memory is used again
 };
 
 KnownNames known;
 
 constexpr std::size_t kFewWidgets = 100000;
 
-const std::string& Key(const char* name) { return known.key = name ? name : ""; }
+Answer& AnswerFor(const char* name) {
+  const auto entry = known.answers.find(OsiView(name));
+  if (entry != known.answers.end()) return entry->second;
+  return known.answers[JoinTexts("", name, "", "Out of memory in AnswerFor")];
+}
 
 // Menus of the top level that are claimed below a window keep their place.
 bool IsBelow(const Widg* widg) { return !widg->top_level; }
 
-void ForgetBelow(const char* name) { known.answers[Key(name)].below = &unknown; }
+void ForgetBelow(const char* name) { AnswerFor(name).below = &unknown; }
 
 // Windows are learned in their order. The first of a name wins at the top level; below, the first
 // one of the last window does.
@@ -55,10 +59,10 @@ void Learn(Widg* window) {
   const uint32_t visit = NewVisit();
   window->visit = visit;
   known.windows.push_back(window);
-  Answer& answer = known.answers[Key(window->gil_name)];
+  Answer& answer = AnswerFor(window->gil_name);
   if (!answer.top) answer.top = window;
   FindFirst(window->child, visit, IsBelow, [visit](Widg* widg) {
-    Widg*& below = known.answers[Key(widg->gil_name)].below;
+    Widg*& below = AnswerFor(widg->gil_name).below;
     if (!below || below->visit != visit) below = widg;
     ++known.learned;
     return false;
@@ -123,19 +127,17 @@ void NamesDropped(Widg* menu) {
   Forget(menu, known.drop);
   // Where the menu was the first of its name, only widgets of its own file can be the next, and
   // those are learned again when the clean-up is done.
-  Widg*& top = known.answers[Key(menu->gil_name)].top;
+  Widg*& top = AnswerFor(menu->gil_name).top;
   if (top == menu) top = nullptr;
 }
 
 void NamesRenamed(const Widg* widg, const char* former) {
   if (widg->visit == 0 || OsiStrcmp(widg->gil_name, former) == 0) return;
   ChildrenChanged();
-  for (const char* name : {former, static_cast<const char*>(widg->gil_name)}) {
-    known.answers[Key(name)] = {&unknown, &unknown};
-  }
+  AnswerFor(former) = AnswerFor(widg->gil_name) = {&unknown, &unknown};
 }
 
-void ChildrenChanged() { known.with_child_is_known = false; }
+void ChildrenChanged() { known.walk = 0; }
 
 void EndKnownNames() { known.ended = true; }
 
@@ -148,12 +150,7 @@ bool TopLevelIsClaimed() { return known.claims > 0; }
 bool KnownWidg(const char* name, Widg** found) {
   if (known.ended) return false;
   LearnNewWindows();
-  const auto entry = known.answers.find(Key(name));
-  if (entry == known.answers.end()) {
-    *found = nullptr;
-    return true;
-  }
-  Answer& answer = entry->second;
+  Answer& answer = AnswerFor(name);
   if (answer.top == &unknown) return false;
   if (!answer.top && answer.below == &unknown) answer.below = FindBelow(name);
   *found = answer.top ? answer.top : answer.below;
@@ -162,16 +159,18 @@ bool KnownWidg(const char* name, Widg** found) {
 
 bool KnownWidgWithChild(const char* name, Widg** found) {
   if (known.ended) return false;
-  if (!known.with_child_is_known) {
-    known.with_child.clear();
+  if (known.walk == 0) {
+    known.walk = NewVisit();
     FindFirst(top_widget, [](Widg* widg) {
-      if (widg->child) known.with_child.emplace(Key(widg->gil_name), widg);
+      if (!widg->child) return false;
+      Answer& answer = AnswerFor(widg->gil_name);
+      if (answer.walk != known.walk) answer.with_child = widg;
+      answer.walk = known.walk;
       return false;
     });
-    known.with_child_is_known = true;
   }
-  const auto entry = known.with_child.find(Key(name));
-  *found = entry == known.with_child.end() ? nullptr : entry->second;
+  const Answer& answer = AnswerFor(name);
+  *found = answer.walk == known.walk ? answer.with_child : nullptr;
   return true;
 }
 

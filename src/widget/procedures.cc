@@ -12,7 +12,7 @@ static std::vector<char*, OsiAllocator<char*>> procedures;
 // The same by text. An entry whose procedure has another text by now does not count.
 static std::unordered_map<std::string, char*> by_text;
 
-static std::string Key(const char* text) { return text ? text : ""; }
+static std::string Key(const char* text) { return std::string(OsiView(text)); }
 
 bool AlreadyInProcList(const char* procedure) {
   const auto known = by_text.find(Key(procedure));

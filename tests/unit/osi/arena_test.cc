@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "osi/arena.h"
 #include "osi/arena_testing.h"
+#include "osi/by_text.h"
 
 #include <gtest/gtest.h>
 #include <malloc.h>
@@ -98,6 +99,18 @@ TEST_F(ArenaTest, FailsAfterTheGivenNumberOfRequests) {
   EXPECT_EQ(ArenaNew<Record>(), nullptr);
   ArenaFailAfter(-1);
   EXPECT_NE(ArenaAlloc(8), nullptr);
+}
+
+TEST_F(ArenaTest, ContainersTakeTheirMemoryFromIt) {
+  ByText<int, ArenaMemory> numbers;
+  numbers["one"] = 1;
+  EXPECT_EQ(numbers["one"], 1);
+  EXPECT_EXIT((ArenaFailAfter(0), numbers["two"] = 2), testing::ExitedWithCode(255),
+              "Error: Out of memory in ArenaMemory\n");
+  numbers.clear();
+  ArenaFailAfter(0);
+  EXPECT_EXIT(numbers["one"] = 1, testing::ExitedWithCode(255), "Out of memory")
+      << "what the container gave back is used again";
 }
 
 TEST_F(ArenaTest, ResetLiftsTheLimitAndMayBeRepeated) {

@@ -11,6 +11,17 @@
 #include "osi/memory.h"
 #include "unit/osi/owned.h"
 
+TEST(OsiOrEmpty, GivesTheStringItself) {
+  const char* text = "button";
+  EXPECT_EQ(OsiOrEmpty(text), text);
+  EXPECT_STREQ(OsiOrEmpty(nullptr), "");
+}
+
+TEST(OsiView, IsTheTextUpToItsNul) {
+  EXPECT_EQ(OsiView("but\0ton"), "but");
+  EXPECT_EQ(OsiView(nullptr), "");
+}
+
 TEST(OsiStrcmp, TakesNullAsEmpty) {
   EXPECT_EQ(OsiStrcmp(nullptr, ""), 0);
   EXPECT_EQ(OsiStrcmp("", nullptr), 0);
