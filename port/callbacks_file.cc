@@ -5,14 +5,13 @@
 #include "gil/tokens.h"
 #include "port/code.h"
 #include "port/escape.h"
+#include "port/functions.h"
 #include "port/generate.h"
 
 namespace port {
 namespace {
 
 using kainjow::mustache::list;
-
-bool IsWordByte(char c) { return std::isalnum(static_cast<unsigned char>(c)) || c == '_'; }
 
 // Every word of the file that an opening parenthesis follows: functions are among them, wherever
 // the user put them and whatever type they have by now.

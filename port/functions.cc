@@ -185,10 +185,6 @@ constexpr std::string_view kPrefixes[] = {
     "Xt", "Xm",  "xm",  "_X",       "Zo",  "Mrm",      "MRM",   "XA_",     "XK_",
     "__", "str", "mem", "pthread_", "SIG", "setting_", "work_", "popups_", "resources_"};
 
-bool IsWordByte(char c) {
-  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_';
-}
-
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 // A prefix of a library's names: "Xt" takes XtManageChild, not Xtra.
@@ -264,6 +260,10 @@ class Functions {
 };
 
 }  // namespace
+
+bool IsWordByte(char c) {
+  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_';
+}
 
 std::string CWord(const std::string& text) {
   std::string word;

@@ -18,6 +18,9 @@ bool CallsFunction(const Connection& connection);
 // or known to the libraries otherwise gets "_callback" at its end.
 void NameFunctions(Session& session);
 
+// Whether a word of C may have the character.
+bool IsWordByte(char c);
+
 // A word of C made from the text: characters that a word cannot have become "_".
 std::string CWord(const std::string& text);
 

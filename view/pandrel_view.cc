@@ -11,6 +11,7 @@
 //   picture.h, listing.h, check.h   what can be had instead of a running interface
 #include <iostream>
 
+#include "failure.h"
 #include "program_name.h"
 #include "supervisor.h"
 #include "view_options.h"

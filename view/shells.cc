@@ -11,7 +11,6 @@ namespace {
 
 using uilfix::Argument;
 using uilfix::Control;
-using uilfix::Object;
 
 bool IsShellClass(const std::string& class_name) {
   return class_name == "TopLevelShell" || class_name == "XmDialogShell";
@@ -66,7 +65,7 @@ void ReadControl(const Control& control, Shell& shell) {
   (IsMenuClass(control.class_name) ? shell.popups : shell.work).push_back(child);
 }
 
-Shell ReadShell(const Object& object) {
+Shell ReadShell(const uilfix::Object& object) {
   Shell shell;
   shell.name = object.name;
   shell.dialog = object.class_name == "XmDialogShell";
@@ -92,7 +91,7 @@ std::vector<Shell> ShellPerLooseObject(const uilfix::Module& module,
                                        const std::map<std::string, std::string>& parents,
                                        const std::set<std::string>& left_out) {
   std::vector<Shell> shells;
-  uilfix::ForEachObject(module, [&](const Object& object) {
+  uilfix::ForEachObject(module, [&](const uilfix::Object& object) {
     if (parents.contains(object.name) || left_out.contains(object.name)) return;
     if (IsMenuClass(object.class_name)) return;
     Shell shell;
@@ -109,7 +108,7 @@ std::vector<Shell> ReadShells(const uilfix::Module& module, const std::set<std::
   std::vector<Shell> shells;
   std::map<std::string, std::string> parents;
   std::set<std::string> top_levels;
-  uilfix::ForEachObject(module, [&](const Object& object) {
+  uilfix::ForEachObject(module, [&](const uilfix::Object& object) {
     uilfix::ForEachEntry<Control>(
         object, [&](const Control& control) { parents.emplace(control.name, object.name); });
     if (!object.IsComment() || !IsShellClass(object.class_name)) return;

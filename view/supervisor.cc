@@ -14,11 +14,11 @@
 #include <iostream>
 #include <optional>
 
+#include "failure.h"
 #include "file_watch.h"
 #include "input.h"
 #include "private_server.h"
 #include "process.h"
-#include "program_name.h"
 #include "scratch_folder.h"
 #include "signals.h"
 #include "view_session.h"
@@ -36,11 +36,6 @@ constexpr milliseconds kWorkerEndLimit{2'000};
 // Editors write a file in several steps; this is how long it has to stay as it is.
 constexpr milliseconds kUnchanged{150};
 
-int Fail(const std::string& message) {
-  std::cerr << kProgram << ": " << message << std::flush;
-  return kFailure;
-}
-
 // A process that shows the interface.
 struct Worker {
   pid_t process = -1;
@@ -56,14 +51,14 @@ class Supervisor {
 
   int Run() {
     if (scratch_.Path().empty()) {
-      return Fail(std::string("cannot make a temporary folder: ") + std::strerror(errno) + "\n");
+      return Fail(std::string("cannot make a temporary folder: ") + std::strerror(errno));
     }
     if (options_.watch) watch_.emplace(fs::absolute(options_.file));
-    if (watch_ && watch_->Descriptor() < 0) return Fail(options_.file + ": cannot be watched\n");
+    if (watch_ && watch_->Descriptor() < 0) return Fail(options_.file + ": cannot be watched");
     std::optional<Interface> interface = Prepare();
     if (StopSignal() != 0) return kFailure;
     if (!interface && !watch_) return kFailure;
-    if (const std::string failure = ChooseServer(); !failure.empty()) return Fail(failure + "\n");
+    if (const std::string failure = ChooseServer(); !failure.empty()) return Fail(failure);
     if (interface) Start(*interface);
     return Watch();
   }
@@ -156,7 +151,7 @@ class Supervisor {
           return kFailure;
         case Event::kTooSlow:
           StopWorker(SIGKILL);
-          return Fail(options_.file + ": could not be read within a minute; it may be damaged\n");
+          return Fail(options_.file + ": could not be read within a minute; it may be damaged");
         case Event::kChanged:
           Reload();
           break;
@@ -184,9 +179,9 @@ class Supervisor {
   void TellCrash(int signal) const {
     if (signal == SIGPIPE || signal == SIGTERM || signal == SIGKILL) return;
     const bool compiled = fs::path(options_.file).extension() == ".uid";
-    Fail(options_.file +
-         (compiled ? ": damaged: the resource manager crashed on it\n"
-                   : ": the toolkit crashed (" + std::string(strsignal(signal)) + ")\n"));
+    Fail(options_.file + (compiled
+                              ? ": damaged: the resource manager crashed on it"
+                              : ": the toolkit crashed (" + std::string(strsignal(signal)) + ")"));
   }
 
   // The worker's process, which is nobody's any more.

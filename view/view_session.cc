@@ -13,6 +13,7 @@
 #include <set>
 
 #include "check.h"
+#include "failure.h"
 #include "gil_names.h"
 #include "held_errors.h"
 #include "label_text.h"
@@ -33,11 +34,6 @@
 
 namespace view {
 namespace {
-
-int Fail(const std::string& message) {
-  std::cerr << kProgram << ": " << message << std::endl;
-  return kFailure;
-}
 
 void ReportWrongArgument(Widget, const char* message) {
   std::cerr << kProgram << ": " << message << "\n";

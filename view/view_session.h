@@ -17,8 +17,7 @@ struct SessionLinks {
   std::filesystem::path places;  // where the windows of the run before were; may not be there
 };
 
-// Exit statuses of the program.
-inline constexpr int kFailure = 1;
+// The exit status for a wrong command line.
 inline constexpr int kUsage = 2;
 
 // Shows, lists, checks or takes pictures of the interface. The working directory is the

@@ -4,11 +4,10 @@
 #include <gtest/gtest.h>
 
 using namespace port;
-using Action = Options::Action;
 
 TEST(PortOptions, PortsAFileByDefault) {
   const Options options = ParseOptions({"-o", "out", "-nozo", "-Dicons", "app.G"});
-  EXPECT_EQ(options.action, Action::kPort);
+  EXPECT_EQ(options.action, Options::Action::kPort);
   EXPECT_EQ(options.input, "app.G");
   EXPECT_EQ(options.output, "out");
   EXPECT_EQ(options.converter_options, (std::vector<std::string>{"-nozo", "-Dicons"}));
@@ -17,14 +16,14 @@ TEST(PortOptions, PortsAFileByDefault) {
 
 TEST(PortOptions, PortsATree) {
   const Options options = ParseOptions({"-r", "-j4", "--output=out", "tree"});
-  EXPECT_EQ(options.action, Action::kTree);
+  EXPECT_EQ(options.action, Options::Action::kTree);
   EXPECT_EQ(options.jobs, 4);
   EXPECT_EQ(options.output, "out");
 }
 
 TEST(PortOptions, InformsWhateverElseStandsThere) {
-  EXPECT_EQ(ParseOptions({"--help"}).action, Action::kHelp);
-  EXPECT_EQ(ParseOptions({"-r", "--version"}).action, Action::kVersion);
+  EXPECT_EQ(ParseOptions({"--help"}).action, Options::Action::kHelp);
+  EXPECT_EQ(ParseOptions({"-r", "--version"}).action, Options::Action::kVersion);
 }
 
 TEST(PortOptions, TellsMistakes) {
@@ -39,7 +38,7 @@ TEST(PortOptions, TellsMistakes) {
                                                   {"-Q", "a"},
                                                   {"-D", "a"},
                                                   {"--templates=", "a"}}) {
-    EXPECT_EQ(ParseOptions(arguments).action, Action::kUsageError);
+    EXPECT_EQ(ParseOptions(arguments).action, Options::Action::kUsageError);
     EXPECT_NE(ParseOptions(arguments).error, "");
   }
 }

@@ -5,13 +5,10 @@
 
 #include "gil/scanner.h"
 #include "gil/tokens.h"
+#include "unit/support/gil_objects.h"
 #include "unit/support/session_fixture.h"
 
 using ObjectTest = SessionFixture;
-
-static Value* Str(const char* text) {
-  return stringValue(1, text, std::char_traits<char>::length(text));
-}
 
 static Attr* Then(Attr* attr, Attr* next) {
   attr->next = next;
@@ -22,7 +19,7 @@ static Attr* Then(Attr* attr, Attr* next) {
 static Obj* Labelled() {
   return makeObj(BUTTON,
                  Then(makeAttr(X, intValue(10)),
-                      Then(makeAttr(LABEL, Str("\"a\"")), makeAttr(LABEL, Str("\"b\"")))),
+                      Then(makeAttr(LABEL, StrValue("a")), makeAttr(LABEL, StrValue("b")))),
                  nullptr);
 }
 
@@ -139,11 +136,11 @@ TEST_F(ObjectMemoryTest, ValuesAreReported) {
   ExpectReport([] { createValue(0); }, "a Value");
   ExpectReport([] { tokenValue(NIL); }, "a Value");
   ExpectReport([] { intValue(1000); }, "a Value");
-  ExpectReport([] { Str("a"); }, "a Value");
+  ExpectReport([] { StrValue("a"); }, "a Value");
 }
 
 TEST_F(ObjectMemoryTest, TextsOfValuesAreReported) {
-  ExpectReport([] { Str("a"); }, "a Value", 1);
+  ExpectReport([] { StrValue("a"); }, "a Value", 1);
 }
 
 TEST_F(ObjectMemoryTest, AttributesAreReported) {
@@ -218,7 +215,7 @@ TEST_F(ObjectTest, TextOfAnAbsentAttributeIsNotFound) {
 }
 
 TEST_F(ObjectTest, TextOfAStringIsShared) {
-  Value* value = Str("\"a\"");
+  Value* value = StrValue("a");
   Obj* obj = makeObj(BUTTON, makeAttr(LABEL, value), nullptr);
   char* text = nullptr;
   EXPECT_EQ(GetAttrValueString(obj, LABEL, &text, 0), 1);

@@ -1,17 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "gil/value.h"
 
-#include <cstring>
-
 #include "gil/tokens.h"
+#include "unit/support/gil_objects.h"
 #include "unit/support/session_fixture.h"
 
 using ValueTest = SessionFixture;
 
-static Value* Str(const char* text) { return stringValue(1, text, std::strlen(text)); }
-
 TEST_F(ValueTest, TakingAValueTakesTheAttributeOffTheObject) {
-  Value* value = Str("\"Ok\"");
+  Value* value = StrValue("Ok");
   Obj* obj = makeObj(BUTTON, makeAttr(LABEL, value), nullptr);
   EXPECT_EQ(PeekValue(obj, LABEL), value);
   EXPECT_EQ(TakeValue(obj, LABEL), value);
@@ -20,7 +17,7 @@ TEST_F(ValueTest, TakingAValueTakesTheAttributeOffTheObject) {
 }
 
 TEST_F(ValueTest, TextIsShared) {
-  Value* value = Str("name");
+  Value* value = IdValue("name");
   EXPECT_EQ(ValueText(value), value->sval);
 }
 
@@ -36,7 +33,7 @@ TEST_F(ValueTest, MissingTokenIsWhatTheCallerSays) {
 }
 
 TEST_F(ValueTest, OnlyStringsAreStringValues) {
-  EXPECT_TRUE(IsStringValue(Str("")));
+  EXPECT_TRUE(IsStringValue(StrValue("")));
   EXPECT_FALSE(IsStringValue(tokenValue(NIL)));
   EXPECT_FALSE(IsStringValue(intValue(0)));
   EXPECT_FALSE(IsStringValue(nullptr));
@@ -50,8 +47,8 @@ TEST_F(ValueTest, EmptyStringIsTwoQuotes) {
 }
 
 TEST_F(ValueTest, TextCountsUnlessItIsTwoQuotes) {
-  EXPECT_TRUE(HasGilText(Str("\"a\"")));
-  EXPECT_FALSE(HasGilText(Str("\"\"")));
+  EXPECT_TRUE(HasGilText(StrValue("a")));
+  EXPECT_FALSE(HasGilText(StrValue("")));
   EXPECT_FALSE(HasGilText(nullptr));
 }
 

@@ -4,6 +4,7 @@
 #include <sstream>
 #include <string>
 
+#include "unit/support/numbered.h"
 #include "unit/support/session_fixture.h"
 
 class NameTableTest : public SessionFixture {
@@ -13,11 +14,6 @@ class NameTableTest : public SessionFixture {
 
   NameTable table;
 };
-
-// A letter, a number and an "x", so that the number is not one that the table appended.
-static std::string Numbered(const char* letter, int number) {
-  return std::string(letter).append(std::to_string(number)).append("x");
-}
 
 TEST_F(NameTableTest, FirstNameHasHandleZero) {
   EXPECT_EQ(NamePosition(&table, "a"), 0);

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "flags/flags.h"
+#include "unit/support/numbered.h"
 #include "unit/support/session_fixture.h"
 #include "widget/callbacks.h"
 #include "widget/procedures.h"
@@ -161,11 +162,6 @@ static std::string EmptyBlock(const std::string& name, const std::string& class_
   std::string block = "object\n";
   block.append(name).append(":").append(class_name).append("{\n\tcontrols {\n").append(controls);
   return block.append("\t\t};\n\targuments {\n\t\t};\n\tcallbacks {\n\t\t};\n\n\t};\n\n");
-}
-
-// A letter, a number and an "x", so that the number is not one that the table appended.
-static std::string Numbered(const char* letter, int number) {
-  return std::string(letter).append(std::to_string(number)).append("x");
 }
 
 // The module
