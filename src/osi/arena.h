@@ -30,8 +30,8 @@ Record* ArenaNew() {
   return block ? new (block) Record() : nullptr;
 }
 
-// The arena as the memory of an allocator (osi/allocator.h), for containers that live as long as the
-// conversion. What they outgrow stays in the arena.
+// The arena as the memory of an allocator (osi/allocator.h), for containers that live as long as
+// the conversion. What they outgrow stays in the arena.
 struct ArenaMemory {
   static void* Allocate(std::size_t size);  // ends the run when memory is exhausted
   static void Free(void* /*block*/) {}
