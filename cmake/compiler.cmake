@@ -14,6 +14,9 @@ endif()
 # Equal sources give equal bytes wherever they were unpacked.
 target_compile_options(pandrel_flags INTERFACE
   -ffile-prefix-map=${CMAKE_SOURCE_DIR}=. -ffile-prefix-map=${CMAKE_BINARY_DIR}=.)
+# Hardened as in the packages: the functions of libraries are bound before a program runs, and their table
+# is read-only then.
+target_link_options(pandrel_flags INTERFACE -Wl,-z,now)
 if(PANDREL_ASAN)
   target_compile_options(pandrel_flags INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)

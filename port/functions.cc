@@ -2,7 +2,6 @@
 #include "port/functions.h"
 
 #include <algorithm>
-#include <cctype>
 #include <map>
 #include <set>
 #include <string_view>

@@ -15,7 +15,7 @@ Obj* resolveChildren(Obj* objects) {
   for (Obj* obj = objects; obj; obj = obj->next) {
     obj->allNext = obj->next;
     obj->name = AttrText(obj->attrs, NAME);
-    by_name.emplace(OsiView(obj->name), obj);
+    by_name.try_emplace(OsiView(obj->name), obj);
   }
 
   // The list is in reverse file order and every insertion is at the front, so all lists end up in

@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <cstdlib>
 
+#include "osi/files_testing.h"
 #include "osi/memory.h"
 #include "osi/strings.h"
 

@@ -30,9 +30,6 @@ bool OsiDirExists(const char* path);
 // use what it read.
 bool OsiFileAccess(const char* path, int mode);
 
-// Makes the next OsiFileAccess read the user and the groups again, for a process that changed them.
-void OsiFileAccessForgetUser();
-
 // Whether `a` exists and `b` either does not or was modified earlier. False when a name is empty.
 bool OsiFileIsNewer(const char* a, const char* b);
 

@@ -7,6 +7,7 @@
 #include <cstddef>
 
 #include "osi/memory.h"
+#include "osi/sigchld_testing.h"
 
 namespace {
 

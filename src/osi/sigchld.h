@@ -14,7 +14,4 @@ using OsiSignalHandler = void (*)(int signal);
 // cannot be installed.
 bool OsiSigchld(OsiSignalHandler handler, bool add);
 
-// Empties the list and restores the signal action that the first addition replaced.
-void OsiSigchldReset();
-
 #endif

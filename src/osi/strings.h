@@ -18,7 +18,7 @@ inline const char* OsiOrEmpty(const char* s) { return s ? s : ""; }
 // The text without its NUL; empty for null.
 inline std::string_view OsiView(const char* s) { return OsiOrEmpty(s); }
 
-// strcmp, with a null string equal to an empty one. The converter's only string comparison.
+// strcmp, with a null string equal to an empty one.
 inline int OsiStrcmp(const char* a, const char* b) {
   return std::strcmp(OsiOrEmpty(a), OsiOrEmpty(b));
 }

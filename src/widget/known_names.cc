@@ -42,6 +42,7 @@ KnownNames known;
 
 constexpr std::size_t kFewWidgets = 100000;
 
+// The record of the name; a new one has a copy of the name as its key.
 Answer& AnswerFor(const char* name) {
   const auto entry = known.answers.find(OsiView(name));
   if (entry != known.answers.end()) return entry->second;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What a search from top_widget would find for each GIL name, and who is whose parent. Only
-// widget/search.cc asks; widget/links.cc and whoever renames a widget keep it true.
+// widget/search.cc asks for answers; widget/links.cc and whoever renames a widget keep them true.
 //
 // note [what searches know]
 // Menus, groups and actions are found by name. A walk through the tree each time would make large

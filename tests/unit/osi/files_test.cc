@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "osi/files.h"
+#include "osi/files_testing.h"
 
 #include <fcntl.h>
 #include <grp.h>

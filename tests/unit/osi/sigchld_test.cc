@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "osi/sigchld.h"
+#include "osi/sigchld_testing.h"
 
 #include <gtest/gtest.h>
 
