@@ -42,7 +42,7 @@ static void HandleCanvasPaneAttribute(Obj* obj, Widg* /*widg*/, const Attr* attr
   const int32_t model = ValueToken(attr->value, 0);
   if (model == XVIEW || model == POSTSCRIPT) {
     std::printf("CanvasPane %s: Motif does not support XVIEW or POSTSCRIPT drawing models\n",
-                obj->name ? obj->name : "");
+                OsiOrEmpty(obj->name));
   }
 }
 

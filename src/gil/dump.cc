@@ -8,6 +8,7 @@
 #include "gil/position.h"
 #include "gil/tokens.h"
 #include "gil/words.h"
+#include "osi/strings.h"
 
 static int32_t depth = 0;
 
@@ -48,13 +49,13 @@ static void PrintValues(const Value* values) {
         PrintToken(value->ival);
         break;
       case kStringValue:
-        std::fprintf(stderr, "%s ", value->sval ? value->sval : "");
+        std::fprintf(stderr, "%s ", OsiOrEmpty(value->sval));
         break;
       case kIntegerValue:
         std::fprintf(stderr, "%d ", static_cast<int>(value->ival));
         break;
       case 3:  // what the scanner calls an identifier, were it ever to reach a record
-        std::fprintf(stderr, "ID:%s ", value->sval ? value->sval : "");
+        std::fprintf(stderr, "ID:%s ", OsiOrEmpty(value->sval));
         break;
       default:
         std::fprintf(stderr, "Illegal value type: %d\n", static_cast<int>(value->kind));

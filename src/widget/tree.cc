@@ -76,7 +76,7 @@ void AddResource(Widg* widg, const char* name, const char* value) {
 
 const char* GetResourceValue(const Widg* widg, const char* name) {
   for (const Resource* resource = widg->resources; resource; resource = resource->next) {
-    if (OsiStrcmp(resource->name, name) == 0) return resource->value ? resource->value : "";
+    if (OsiStrcmp(resource->name, name) == 0) return OsiOrEmpty(resource->value);
   }
   return "";
 }
